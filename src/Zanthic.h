@@ -1,0 +1,15 @@
+#pragma once
+
+/// \file
+/// Everything that the library offers.
+
+#include <Zanthic/ChangeSkinEvent.h>
+#include <Zanthic/Custom.h>
+#include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomFrame.h>
+#include <Zanthic/CustomObject.h>
+#include <Zanthic/CustomPushButton.h>
+#include <Zanthic/CustomQssHelper.h>
+#include <Zanthic/CustomRadioButton.h>
+#include <Zanthic/CustomWidget.h>
+#include <Zanthic/HotKeyEvent.h>
