@@ -87,6 +87,12 @@ double contrast(const QColor &a, const QColor &b)
     return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
 
+// What a control may stand on.
+QList<QColor> pages()
+{
+    return { Custom::string2Color(kPage), Custom::getDataBaseColor(QStringLiteral("Custom_Surface")).color() };
+}
+
 // What a failed comparison tells.
 QByteArray told(const QString &what, double ratio)
 {
@@ -397,6 +403,9 @@ void TestThemeFiles::sheetsAreFilled()
         }
         QVERIFY2(!sheet.contains(QRegularExpression(QStringLiteral("@|##|\\*|DB_COLOR_"))), name);
         QCOMPARE(sheet.count(QLatin1Char('{')), sheet.count(QLatin1Char('}')));
+        const bool hasText = types.value(i) != Custom::SheetScrollBar && types.value(i) != Custom::SheetSlider;
+        for (Custom::Language language : { Custom::Zh_cn, Custom::En_us })
+            QVERIFY2(sheet.contains(Custom::globalFontFamily(language)) == hasText, name);
         for (auto match = url.globalMatch(sheet); match.hasNext();)
             QVERIFY2(!QImage(match.next().captured(1)).isNull(), name);
         // A sheet that Qt can't parse is dropped as a whole, with a warning.
@@ -458,18 +467,20 @@ void TestThemeFiles::buttonsReadWell()
     const AttributeTable table = attributes(className, selector);
     QSet<QString> looks;
     for (Custom::ItemStatus status : kStatuses) {
-        const QColor page = Custom::string2Color(kPage);
-        const QColor fill = over(Custom::string2Color(value(table, QStringLiteral("BackgroundColor"), status)), page);
+        const QColor background = Custom::string2Color(value(table, QStringLiteral("BackgroundColor"), status));
         const QColor text = Custom::string2Color(value(table, QStringLiteral("FontColor"), status));
-        const QColor edge
-            = over(Custom::string2Color(value(table, QStringLiteral("BorderColor:AllEdge"), status)), fill);
-        looks += fill.name() + text.name() + edge.name();
+        const QColor border = Custom::string2Color(value(table, QStringLiteral("BorderColor:AllEdge"), status));
+        looks += Custom::color2String(background) + Custom::color2String(text) + Custom::color2String(border);
         if (status == Custom::Disabled)
             continue;
-        const QString name = statusName(status);
-        QVERIFY2(contrast(text, fill) >= kTextContrast, told(name, contrast(text, fill)));
-        // A border in the colour of the fill is no line of its own.
-        QVERIFY2(edge == fill || contrast(edge, page) >= kIndicatorContrast, told(name, contrast(edge, page)));
+        for (const QColor &page : pages()) {
+            const QColor fill = over(background, page);
+            const QColor edge = over(border, fill);
+            QVERIFY2(contrast(text, fill) >= kTextContrast, told(statusName(status), contrast(text, fill)));
+            // A border in the colour of the fill is no line of its own.
+            QVERIFY2(edge == fill || contrast(edge, page) >= kIndicatorContrast,
+                told(statusName(status), contrast(edge, page)));
+        }
     }
     QCOMPARE(looks.size(), int(kStatuses.size()));
 }
@@ -481,8 +492,6 @@ void TestThemeFiles::indicatorsReadWell()
     QFETCH(QString, selector);
     QVERIFY(ZanthicTheme::applySkin(skin));
     const AttributeTable table = attributes(className, selector);
-    const QColor pages[]
-        = { Custom::string2Color(kPage), Custom::getDataBaseColor(QStringLiteral("Custom_Surface")).color() };
     QSet<QByteArray> looks;
     for (const QString &suffix : suffixes(className)) {
         for (Custom::ItemStatus status : kStatuses) {
@@ -493,7 +502,7 @@ void TestThemeFiles::indicatorsReadWell()
             const QString name = path;
             const IndicatorColors colors = indicatorColors(QImage(path.insert(path.size() - 4, QLatin1String("@2x"))));
             const QColor text = Custom::string2Color(value(table, QStringLiteral("FontColor"), status));
-            for (const QColor &page : pages) {
+            for (const QColor &page : pages()) {
                 QVERIFY2(contrast(colors.edge, page) >= kIndicatorContrast, told(name, contrast(colors.edge, page)));
                 QVERIFY2(contrast(text, page) >= kTextContrast, told(name, contrast(text, page)));
             }
@@ -523,7 +532,7 @@ void TestThemeFiles::sheetColorsReadWell_data()
     QTest::addColumn<QString>("front");
     QTest::addColumn<QStringList>("backs");
     QTest::addColumn<double>("ratio");
-    const QStringList pages{ QStringLiteral("Window_Background"), QStringLiteral("Surface") };
+    const QStringList grounds{ QStringLiteral("Window_Background"), QStringLiteral("Surface") };
     const QStringList items{ QStringLiteral("Surface"), QStringLiteral("Surface_Alternate"),
         QStringLiteral("Item_Hover"), QStringLiteral("Item_Selected") };
     const QStringList headers{ QStringLiteral("Header"), QStringLiteral("Header_Hover"),
@@ -531,14 +540,14 @@ void TestThemeFiles::sheetColorsReadWell_data()
     const auto row = [](const char *front, const QStringList &backs, double ratio) {
         QTest::newRow(front) << QString::fromLatin1(front) << backs << ratio;
     };
-    row("Font", pages + items + headers + QStringList(QStringLiteral("Light")), kTextContrast);
-    row("Font_Secondary", pages + QStringList(QStringLiteral("Item_Hover")), kTextContrast);
+    row("Font", grounds + items + headers + QStringList(QStringLiteral("Light")), kTextContrast);
+    row("Font_Secondary", grounds + QStringList(QStringLiteral("Item_Hover")), kTextContrast);
     row("Item_Text", items, kTextContrast);
     row("Header_Text", { QStringLiteral("Header") }, kTextContrast);
     row("Selection_Text", { QStringLiteral("Selection") }, kTextContrast);
     for (const char *front : { "Field_Border", "Field_Border_Hover", "Field_Border_Focus", "Accent", "ScrollBar_Handle",
              "ScrollBar_Handle_Hover", "ScrollBar_Handle_Pressed", "Arrow", "Arrow_Hover" })
-        row(front, pages, kIndicatorContrast);
+        row(front, grounds, kIndicatorContrast);
 }
 
 void TestThemeFiles::sheetColorsReadWell()
