@@ -41,7 +41,8 @@ QFont contentFont(const ResolvedStyle &style, const QWidget *widget)
     // A host whose font is measured in points has no pixel size to offer.
     if (style.fontSize <= 0 && widget->font().pixelSize() > 0)
         font.setPixelSize(widget->font().pixelSize());
-    return font;
+    // The host's own copy of an equal font has been looked up in the font database already.
+    return font == widget->font() ? widget->font() : font;
 }
 
 // Draws the icon; the text's place and flags follow from it.

@@ -125,11 +125,12 @@ QPixmap StyleImages::pixmap(const QString &path)
     if (path.isEmpty() || path.contains(QChar(QChar::Null)))
         return QPixmap();
     const bool resource = isResource(path);
-    const QFileInfo file = resource ? QFileInfo() : QFileInfo(path);
-    if (const LoadedImage *known = g_Images.object(path)) {
-        if (resource || isFresh(*known, file))
-            return known->pixmap;
-    }
+    const LoadedImage *known = g_Images.object(path);
+    if (known && resource)
+        return known->pixmap;
+    const QFileInfo file(path);
+    if (known && isFresh(*known, file))
+        return known->pixmap;
     const QPixmap pixmap = loadPixmap(path);
     // A file that isn't there yet is looked for again; one that is there and broken isn't.
     if (!pixmap.isNull() || QFileInfo::exists(path))
