@@ -5,7 +5,6 @@
 #include "render/BoxPainter_p.h"
 #include "render/HintGuard_p.h"
 #include "style/CustomObject_p.h"
-#include "style/StyleImages_p.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
@@ -64,10 +63,10 @@ Qt::Alignment imageAlignment(const CustomObject &object)
 }
 
 void drawBorderImage(
-    QPainter *painter, const QRect &rect, const QString &path, const CustomObjectData::BorderParameter &parameter)
+    QPainter *painter, const QRect &rect, const StyleImage &image, const CustomObjectData::BorderParameter &parameter)
 {
     const qreal deviceRatio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
-    QPixmap pixmap = StyleImages::pixmapForRatio(path, deviceRatio);
+    QPixmap pixmap = image.pixmapForRatio(deviceRatio);
     const qreal ratio = pixmap.devicePixelRatio();
     pixmap.setDevicePixelRatio(1.0);
     const QMargins margins(parameter.borders[Custom::Left], parameter.borders[Custom::Top],
@@ -102,12 +101,12 @@ bool CustomObject::cDrawBackground(
         fillBackground(*d, *style, painter, rect);
         painted = true;
     } else if (d->hasParameter(Custom::ParamBaseBackgroundImage)) {
-        StyleImages::draw(painter, rect, style->baseBackgroundImage);
+        style->baseBackgroundImage.draw(painter, rect);
     }
     if (d->hasParameter(Custom::ParamBackgroundImage)) {
-        const QSize size = StyleImages::pixmap(style->backgroundImage).size();
-        StyleImages::draw(
-            painter, QStyle::alignedRect(Qt::LeftToRight, imageAlignment(*this), size, rect), style->backgroundImage);
+        const QRect target
+            = QStyle::alignedRect(Qt::LeftToRight, imageAlignment(*this), style->backgroundImage.size(), rect);
+        style->backgroundImage.draw(painter, target);
         painted = true;
     }
     return painted;

@@ -1,6 +1,7 @@
 #include <Zanthic/CustomObject.h>
 
 #include "render/PushButtonLayout_p.h"
+#include "render/TextPalette_p.h"
 #include "style/CustomObject_p.h"
 
 #include <QtGui/QPainter>
@@ -103,7 +104,7 @@ void CustomObject::cDrawPushButton(
         cAttributeValue(QStringLiteral("IconAlignment"), Custom::Normal, {}), !button.icon.isNull(), underline);
 
     const QFont font = contentFont(*resolved, widget);
-    option->palette.setBrush(QPalette::All, QPalette::ButtonText, QBrush(resolved->fontColor));
+    option->palette = TextPalette::withColor(option->palette, QPalette::ButtonText, resolved->fontColor);
     option->fontMetrics = QFontMetrics(font);
     painter->setFont(font);
     if (cDrawContent(painter, option))
