@@ -32,9 +32,15 @@ Appearance::Appearance(QObject *parent) : QObject(parent) { }
 
 Appearance::~Appearance() = default;
 
-QStringList Appearance::skins() { return ZanthicTheme::skins(); }
+QStringList Appearance::skins()
+{
+    return ZanthicTheme::skins();
+}
 
-QStringList Appearance::languages() { return { QStringLiteral("en_US"), QStringLiteral("zh_CN") }; }
+QStringList Appearance::languages()
+{
+    return { QStringLiteral("en_US"), QStringLiteral("zh_CN") };
+}
 
 void Appearance::start(const QString &skin, const QString &language)
 {
@@ -65,9 +71,15 @@ void Appearance::applyLanguage(const QString &language)
     Q_EMIT languageChanged(language);
 }
 
-void Appearance::nextSkin() { applySkin(after(skins(), m_skin)); }
+void Appearance::nextSkin()
+{
+    applySkin(after(skins(), m_skin));
+}
 
-void Appearance::nextLanguage() { applyLanguage(after(languages(), m_language)); }
+void Appearance::nextLanguage()
+{
+    applyLanguage(after(languages(), m_language));
+}
 
 void Appearance::setLibraryLanguage()
 {

@@ -5,23 +5,26 @@
 
 #include <QtCore/QCoreApplication>
 
-CommandLine::CommandLine() :
-    m_pageOption(QStringLiteral("page"), QStringLiteral("Open or render the page <name>."), QStringLiteral("name")),
-    m_skinOption(QStringLiteral("skin"), QStringLiteral("Use the skin <name>."), QStringLiteral("name")),
-    m_languageOption(QStringLiteral("language"), QStringLiteral("Use the language <name>."), QStringLiteral("name")),
-    m_grabOption(QStringLiteral("grab"),
-        QStringLiteral("Render the pages off screen into <folder> as PNG files, print their paths and exit. Without "
-                       "--page, --skin or --language: each of them."),
-        QStringLiteral("folder")),
-    m_listOption(QStringLiteral("list"), QStringLiteral("List pages, skins and languages, and exit.")),
-    m_helpOption(m_parser.addHelpOption()),
-    m_versionOption(m_parser.addVersionOption())
+CommandLine::CommandLine()
+    : m_pageOption(QStringLiteral("page"), QStringLiteral("Open or render the page <name>."), QStringLiteral("name")),
+      m_skinOption(QStringLiteral("skin"), QStringLiteral("Use the skin <name>."), QStringLiteral("name")),
+      m_languageOption(QStringLiteral("language"), QStringLiteral("Use the language <name>."), QStringLiteral("name")),
+      m_grabOption(QStringLiteral("grab"),
+          QStringLiteral("Render the pages off screen into <folder> as PNG files, print their paths and exit. Without "
+                         "--page, --skin or --language: each of them."),
+          QStringLiteral("folder")),
+      m_listOption(QStringLiteral("list"), QStringLiteral("List pages, skins and languages, and exit.")),
+      m_helpOption(m_parser.addHelpOption()),
+      m_versionOption(m_parser.addVersionOption())
 {
     m_parser.setApplicationDescription(QStringLiteral("Every control of Zanthic, page by page."));
     m_parser.addOptions({ m_pageOption, m_skinOption, m_languageOption, m_grabOption, m_listOption });
 }
 
-void CommandLine::parse(const QStringList &arguments) { m_bParsed = m_parser.parse(arguments); }
+void CommandLine::parse(const QStringList &arguments)
+{
+    m_bParsed = m_parser.parse(arguments);
+}
 
 bool CommandLine::check()
 {

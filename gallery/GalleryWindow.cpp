@@ -25,12 +25,27 @@ constexpr QSize StartSize(1200, 800);
 constexpr int SidebarWidth = 208;
 constexpr int Margin = 24;
 constexpr int Gap = 8;
+constexpr int Setting_Height = 32;
 
 CustomFrame *createPanel(const QString &className, QWidget *parent)
 {
     auto *panel = new CustomFrame(parent);
     panel->cSetClassName(className);
     return panel;
+}
+
+/// Lays out one of the settings in the header: a caption, and the row of its controls below.
+void addSetting(QWidget *area, QWidget *caption, QLayout *controls)
+{
+    auto *row = new QWidget(area);
+    row->setFixedHeight(Setting_Height);
+    controls->setContentsMargins(0, 0, 0, 0);
+    row->setLayout(controls);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(caption);
+    layout->addWidget(row);
 }
 
 /// The name that the user reads. Skins are named by the theme, languages by themselves.
@@ -49,12 +64,12 @@ QString displayName(const QString &name)
 
 } // namespace
 
-GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent) :
-    CustomWidget(parent),
-    m_pAppearance(appearance),
-    m_pScrollArea(new QScrollArea(this)),
-    m_pSkinGroup(new QButtonGroup(this)),
-    m_pLanguageGroup(new QButtonGroup(this))
+GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent)
+    : CustomWidget(parent),
+      m_pAppearance(appearance),
+      m_pScrollArea(new QScrollArea(this)),
+      m_pSkinGroup(new QButtonGroup(this)),
+      m_pLanguageGroup(new QButtonGroup(this))
 {
     cSetClassName(QStringLiteral("GalleryWindow"));
     m_pScrollArea->setWidgetResizable(true);
@@ -144,11 +159,7 @@ QWidget *GalleryWindow::createChooser(
         // On a click only: showing a choice made elsewhere must not make it again.
         connect(button, &CustomRadioButton::clicked, this, [this, apply, name] { (m_pAppearance->*apply)(name); });
     }
-    auto *layout = new QVBoxLayout(chooser);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Gap);
-    layout->addWidget(*caption = new TextLabel(TextLabel::Caption, chooser));
-    layout->addLayout(buttons, 1);
+    addSetting(chooser, *caption = new TextLabel(TextLabel::Caption, chooser), buttons);
     return chooser;
 }
 
@@ -158,11 +169,10 @@ QWidget *GalleryWindow::createEnableSwitch()
     m_pEnabled = new CustomCheckBox(area, CustomCheckBox::GraySwitch);
     m_pEnabled->setChecked(true);
     connect(m_pEnabled, &CustomCheckBox::toggled, this, &GalleryWindow::setPageEnabled);
-    auto *layout = new QVBoxLayout(area);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_pEnabledCaption = new TextLabel(TextLabel::Caption, area));
-    layout->addWidget(m_pEnabled, 1, Qt::AlignLeft | Qt::AlignVCenter);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_pEnabled);
+    row->addStretch(1);
+    addSetting(area, m_pEnabledCaption = new TextLabel(TextLabel::Caption, area), row);
     return area;
 }
 
@@ -198,13 +208,13 @@ void GalleryWindow::setPageEnabled(bool enabled)
 
 QPixmap GalleryWindow::picture()
 {
-    QCoreApplication::sendPostedEvents();
     // A page may wrap its texts differently once the scroll bar is gone, hence the second turn.
     for (int turn = 0; turn < 2 && m_pPage; ++turn) {
-        const int needed = qMax(m_pPage->heightForWidth(m_pScrollArea->viewport()->width()),
-            m_pPage->minimumSizeHint().height());
-        resize(width(), height() + needed - m_pScrollArea->viewport()->height());
         QCoreApplication::sendPostedEvents();
+        grab(QRect(0, 0, 1, 1)); // lays out a window that isn't shown, too
+        const int needed
+            = qMax(m_pPage->heightForWidth(m_pScrollArea->viewport()->width()), m_pPage->minimumSizeHint().height());
+        resize(width(), height() + needed - m_pScrollArea->viewport()->height());
     }
     return grab();
 }

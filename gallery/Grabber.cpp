@@ -4,7 +4,6 @@
 #include "GalleryWindow.h"
 
 #include <QtCore/QDir>
-#include <QtGui/QPixmap>
 
 GrabResult grabAll(const GrabPlan &plan)
 {
@@ -17,8 +16,6 @@ GrabResult grabAll(const GrabPlan &plan)
     Appearance appearance;
     appearance.start(plan.skins.value(0), plan.languages.value(0));
     GalleryWindow window(&appearance);
-    window.setAttribute(Qt::WA_DontShowOnScreen);
-    window.show();
     for (const QString &language : plan.languages) {
         for (const QString &skin : plan.skins) {
             appearance.applyLanguage(language);

@@ -16,8 +16,8 @@ Table tableOf(const AttributeQuery &query, const QString &selector)
 
 /// The places of one status in the order of the search. A selector that lists a key, even with an empty text, stands
 /// in place of the default selector's value.
-QVector<ResolutionStep> stepsOf(
-    const AttributeQuery &query, Custom::ItemStatus status, const Table &base, const Table &selected, const OverrideLog &log)
+QVector<ResolutionStep> stepsOf(const AttributeQuery &query, Custom::ItemStatus status, const Table &base,
+    const Table &selected, const OverrideLog &log)
 {
     const QString key = query.key(status);
     QVector<ResolutionStep> steps;
@@ -68,7 +68,10 @@ bool OverrideLog::wipes(const QString &key) const
         m_wiped.cbegin(), m_wiped.cend(), [&key](const QString &attribute) { return key.startsWith(attribute); });
 }
 
-bool Resolution::isEmptyWord() const { return found && steps.constLast().value == EmptyWord; }
+bool Resolution::isEmptyWord() const
+{
+    return found && steps.constLast().value == EmptyWord;
+}
 
 bool Resolution::fellBack(const AttributeQuery &query) const
 {

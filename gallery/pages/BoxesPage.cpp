@@ -10,7 +10,10 @@
 
 namespace {
 
-QString pixels(int number) { return QStringLiteral("%1 px").arg(number); }
+QString pixels(int number)
+{
+    return QStringLiteral("%1 px").arg(number);
+}
 
 /// The library's own text of a gradient between two points of the unit square.
 QString gradientText(const QPointF &from, const QPointF &to, const QStringList &stops)
@@ -46,9 +49,11 @@ void BoxesPage::addWidths()
     for (int width : { 0, 1, 2, 4, 8 }) {
         auto *box = new BoxSpecimen(this);
         box->cSetBorderWidth(width);
+        box->cSetBorderRadius(0);
         boxes << labelled(box, pixels(width));
     }
     auto *uneven = new BoxSpecimen(this);
+    uneven->cSetBorderRadius(0);
     uneven->cSetBorderWidth(12, Custom::Left);
     uneven->cSetBorderWidth(4, Custom::Top);
     uneven->cSetBorderWidth(2, Custom::Right);
@@ -179,8 +184,7 @@ void BoxesPage::addStyles()
         for (int radius : { 0, Radius })
             layout->addWidget(new BorderStyleSpecimen(Custom::BorderStyle(style), radius, pair));
         const int index = style - Custom::BorderDotted;
-        grid->addWidget(
-            labelled(pair, QString::fromLatin1(names.valueToKey(style))), index / Columns, index % Columns);
+        grid->addWidget(labelled(pair, QString::fromLatin1(names.valueToKey(style))), index / Columns, index % Columns);
     }
     grid->setColumnStretch(Columns, 1);
     card->add(grid);

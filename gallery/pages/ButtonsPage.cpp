@@ -1,6 +1,7 @@
 #include "ButtonsPage.h"
 
 #include "parts/Card.h"
+#include "parts/Roomy.h"
 #include "parts/StatusSpecimen.h"
 
 #include <QtCore/QMetaEnum>
@@ -9,7 +10,8 @@
 
 namespace {
 
-constexpr QSize TallButton_Size(112, 64); // room for an icon above or below the text
+constexpr QSize IconButton_Size(128, 32);
+constexpr QSize TallButton_Size(128, 64); // room for an icon above or below the text
 constexpr QSize IconOnly_Size(40, 32);
 constexpr QSize PhotoButton_Size(160, 48);
 
@@ -45,11 +47,11 @@ void ButtonsPage::addLooks()
         table->addWidget(plainText(QString::fromLatin1(names.key(i)), TextLabel::Body), line, 0);
         int column = 1;
         for (Custom::ItemStatus status : allStatuses()) {
-            auto *specimen = new PushButtonSpecimen(status, this, selector);
+            auto *specimen = new Roomy<PushButtonSpecimen>(status, this, selector);
             table->addWidget(
                 translated(specimen, QT_TR_NOOP("Button")), line, column++, Qt::AlignLeft | Qt::AlignVCenter);
         }
-        auto *live = new CustomPushButton(this, selector);
+        auto *live = new Roomy<CustomPushButton>(this, selector);
         table->addWidget(translated(live, QT_TR_NOOP("Press me")), line, column, Qt::AlignLeft | Qt::AlignVCenter);
     }
     card->add(table);
@@ -72,8 +74,7 @@ void ButtonsPage::addIcons()
     for (const auto &one : cases) {
         CustomPushButton *button = withIcon(new CustomPushButton(this));
         button->cSetIconAlign(one.side);
-        if (one.side & (Qt::AlignTop | Qt::AlignBottom))
-            button->setFixedSize(TallButton_Size);
+        button->setFixedSize(one.side & (Qt::AlignTop | Qt::AlignBottom) ? TallButton_Size : IconButton_Size);
         buttons << captioned(translated(button, QT_TR_NOOP("Download")), one.caption);
     }
     CustomPushButton *iconOnly = withIcon(new CustomPushButton(this));
@@ -81,6 +82,7 @@ void ButtonsPage::addIcons()
     buttons << captioned(iconOnly, QT_TR_NOOP("without a text"));
     CustomPushButton *disabled = withIcon(new CustomPushButton(this));
     disabled->cSetIconAlign(Qt::AlignLeft);
+    disabled->setFixedSize(IconButton_Size);
     disabled->setEnabled(false);
     buttons << captioned(translated(disabled, QT_TR_NOOP("Download")), QT_TR_NOOP("disabled"));
     card->add(row(buttons));
@@ -118,7 +120,7 @@ void ButtonsPage::addGuard()
 
 QWidget *ButtonsPage::addCounter(Counter *counter, const char *source)
 {
-    counter->button = translated(new CustomPushButton(this, CustomPushButton::MiddleBase), source);
+    counter->button = translated(new Roomy<CustomPushButton>(this, CustomPushButton::MiddleBase), source);
     counter->label = new TextLabel(TextLabel::Body, this);
     connect(counter->button, &CustomPushButton::clicked, this, [this, counter] {
         ++counter->clicks;

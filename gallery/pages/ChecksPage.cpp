@@ -1,6 +1,7 @@
 #include "ChecksPage.h"
 
 #include "parts/Card.h"
+#include "parts/Roomy.h"
 #include "parts/StatusSpecimen.h"
 
 #include <QtCore/QMetaEnum>
@@ -96,7 +97,7 @@ void ChecksPage::addSignals()
     m_pCounted = new CustomCheckBox(this);
     m_pCounted->setTristate(true);
     m_pChanges = new TextLabel(TextLabel::Body, this);
-    auto *fromCode = translated(new CustomPushButton(this), QT_TR_NOOP("Change from code"));
+    auto *fromCode = translated(new Roomy<CustomPushButton>(this), QT_TR_NOOP("Change from code"));
     connect(m_pCounted, &CustomCheckBox::sigStateChanged, this, [this] {
         ++m_nChanges;
         showChanges();

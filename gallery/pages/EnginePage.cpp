@@ -3,6 +3,7 @@
 #include "parts/BoxSpecimens.h"
 #include "parts/Card.h"
 #include "parts/Field.h"
+#include "parts/Roomy.h"
 
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/CustomCheckBox.h>
@@ -76,7 +77,8 @@ EnginePage::~EnginePage() = default;
 
 void EnginePage::addQuestion()
 {
-    Card *card = addCard(QT_TR_NOOP("Question"), QT_TR_NOOP("Names are compared without regard to case."));
+    Card *card = addCard(QT_TR_NOOP("Question"),
+        QT_TR_NOOP("Names are compared without regard to case. Sub-selectors are separated by commas."));
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(Gap);
     grid->setVerticalSpacing(Gap);
@@ -91,7 +93,6 @@ void EnginePage::addQuestion()
     m_pSelector = addField(1, 0, QT_TR_NOOP("Selector"));
     m_pSubSelectors = addField(1, 2, QT_TR_NOOP("Sub-selectors"));
     m_pAttribute = addField(2, 0, QT_TR_NOOP("Attribute"));
-    m_pSubSelectors->setPlaceholderText(QStringLiteral("item, checked"));
     grid->addWidget(text(QT_TR_NOOP("Status"), TextLabel::Body), 2, 2);
     grid->addWidget(createStatusChooser(), 2, 3);
     grid->setColumnStretch(1, 1);
@@ -119,7 +120,7 @@ void EnginePage::addExamples(Card *card)
 {
     QList<QWidget *> buttons = { text(QT_TR_NOOP("Examples"), TextLabel::Caption) };
     for (const Example &example : examples()) {
-        auto *button = translated(new CustomPushButton(this, CustomPushButton::GrayWhite), example.caption);
+        auto *button = translated(new Roomy<CustomPushButton>(this, CustomPushButton::GrayWhite), example.caption);
         connect(button, &CustomPushButton::clicked, this, [this, example] { setQuery(example.query); });
         buttons << button;
     }
@@ -158,8 +159,9 @@ void EnginePage::addAnswer()
 void EnginePage::addControl()
 {
     Card *card = addCard(QT_TR_NOOP("Live control"),
-        QT_TR_NOOP("The first override of an attribute empties all that the document says of it, in every status, until "
-                   "the document is taken anew."));
+        QT_TR_NOOP(
+            "The first override of an attribute empties all that the document says of it, in every status, until "
+            "the document is taken anew."));
     auto *right = new QVBoxLayout;
     right->setSpacing(Gap);
     right->addWidget(text(QT_TR_NOOP("Override of the attribute in the status above"), TextLabel::Body));
@@ -189,10 +191,11 @@ QWidget *EnginePage::createPreview()
 QLayout *EnginePage::createOverrideRow()
 {
     m_pOverride = new Field(this);
-    m_pSetOverride = translated(new CustomPushButton(this), QT_TR_NOOP("Set"));
-    auto *document
-        = translated(new CustomPushButton(this, CustomPushButton::MiddleBase), QT_TR_NOOP("Take the document anew"));
-    auto *renew = translated(new CustomPushButton(this, CustomPushButton::MiddleBase), QT_TR_NOOP("New control"));
+    m_pSetOverride = translated(new Roomy<CustomPushButton>(this), QT_TR_NOOP("Set"));
+    auto *document = translated(
+        new Roomy<CustomPushButton>(this, CustomPushButton::MiddleBase), QT_TR_NOOP("Take the document anew"));
+    auto *renew
+        = translated(new Roomy<CustomPushButton>(this, CustomPushButton::MiddleBase), QT_TR_NOOP("New control"));
     connect(m_pSetOverride, &CustomPushButton::clicked, this, [this] { setOverride(m_pOverride->text()); });
     connect(m_pOverride, &Field::returnPressed, this, [this] { setOverride(m_pOverride->text()); });
     connect(document, &CustomPushButton::clicked, this, &EnginePage::takeDocument);
@@ -200,7 +203,7 @@ QLayout *EnginePage::createOverrideRow()
     auto *layout = new QHBoxLayout;
     layout->setSpacing(Gap);
     layout->addWidget(m_pOverride, 1);
-    for (QWidget *button : QList<QWidget *> { m_pSetOverride, document, renew })
+    for (QWidget *button : QList<QWidget *>{ m_pSetOverride, document, renew })
         layout->addWidget(button);
     return layout;
 }
@@ -256,7 +259,10 @@ QString EnginePage::value() const
     return m_live.object->cAttributeValue(asked.attribute, asked.status, asked.subSelectors);
 }
 
-Resolution EnginePage::resolution() const { return resolve(query(), m_log); }
+Resolution EnginePage::resolution() const
+{
+    return resolve(query(), m_log);
+}
 
 void EnginePage::applyQuery()
 {

@@ -82,7 +82,7 @@ private:
     BoxSpecimen *m_pSwatch = nullptr;
     QWidget *m_pPreview = nullptr;
     QList<CustomCheckBox *> m_lstFlags;
-    std::array<StepLine, MaxSteps> m_steps {};
+    std::array<StepLine, MaxSteps> m_steps{};
 
     AttributeQuery m_applied; ///< what the live control was told
     LiveControl m_live;

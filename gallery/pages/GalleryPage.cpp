@@ -39,7 +39,10 @@ const char *GalleryPage::statusSource(Custom::ItemStatus status)
     return QT_TR_NOOP("Normal");
 }
 
-QString GalleryPage::statusName(Custom::ItemStatus status) { return tr(statusSource(status)); }
+QString GalleryPage::statusName(Custom::ItemStatus status)
+{
+    return tr(statusSource(status));
+}
 
 GalleryPage::GalleryPage(QWidget *parent) : QWidget(parent)
 {
@@ -122,7 +125,8 @@ QGridLayout *GalleryPage::statusTable(bool liveColumn)
         table->addWidget(statusLabel(status), 0, column++);
     if (liveColumn) {
         auto *heading = new TextLabel(TextLabel::Caption, this);
-        addText(QT_TR_NOOP("Live, to try"), [heading](const QString &words) { heading->setText(words); }, CommonContext);
+        addText(
+            QT_TR_NOOP("Live, to try"), [heading](const QString &words) { heading->setText(words); }, CommonContext);
         table->addWidget(heading, 0, column++);
     }
     for (int i = 0; i < column; ++i)

@@ -47,7 +47,8 @@ protected:
     template <class Widget>
     Widget *withStatusName(Widget *widget, Custom::ItemStatus status)
     {
-        addText(statusSource(status), [widget](const QString &words) { widget->setText(words); }, CommonContext);
+        addText(
+            statusSource(status), [widget](const QString &words) { widget->setText(words); }, CommonContext);
         return widget;
     }
     /// The name of a status in the user's language.

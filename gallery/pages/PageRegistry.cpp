@@ -43,9 +43,15 @@ QStringList pageNames()
     return names;
 }
 
-QString pageTitle(const PageEntry &entry) { return QCoreApplication::translate("PageRegistry", entry.title); }
+QString pageTitle(const PageEntry &entry)
+{
+    return QCoreApplication::translate("PageRegistry", entry.title);
+}
 
-QString pageSummary(const PageEntry &entry) { return QCoreApplication::translate("PageRegistry", entry.summary); }
+QString pageSummary(const PageEntry &entry)
+{
+    return QCoreApplication::translate("PageRegistry", entry.summary);
+}
 
 GalleryPage *createPage(const QString &name, QWidget *parent)
 {

@@ -49,8 +49,8 @@ void ColorRectSpecimen::customEvent(QEvent *event)
         takeSkinColors();
 }
 
-BorderStyleSpecimen::BorderStyleSpecimen(Custom::BorderStyle style, int radius, QWidget *parent) :
-    QWidget(parent), m_style(style), m_nRadius(radius)
+BorderStyleSpecimen::BorderStyleSpecimen(Custom::BorderStyle style, int radius, QWidget *parent)
+    : QWidget(parent), m_style(style), m_nRadius(radius)
 {
     setFixedSize(StyledBorder_Size);
 }

@@ -16,6 +16,12 @@ Card::Card(QWidget *parent) : CustomFrame(parent), m_pBody(new QVBoxLayout(this)
 
 Card::~Card() = default;
 
-void Card::add(QWidget *widget) { m_pBody->addWidget(widget); }
+void Card::add(QWidget *widget)
+{
+    m_pBody->addWidget(widget);
+}
 
-void Card::add(QLayout *layout) { m_pBody->addLayout(layout); }
+void Card::add(QLayout *layout)
+{
+    m_pBody->addLayout(layout);
+}

@@ -7,7 +7,10 @@
 
 #include <QtGui/QKeyEvent>
 
-Field::Field(QWidget *parent) : QLineEdit(parent) { takeSkinColors(); }
+Field::Field(QWidget *parent) : QLineEdit(parent)
+{
+    takeSkinColors();
+}
 
 Field::~Field() = default;
 

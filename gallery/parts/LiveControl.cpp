@@ -22,9 +22,8 @@ LiveControl make(Control *control)
 
 LiveControl LiveControl::create(const QString &className, const QString &text, QWidget *parent)
 {
-    const auto is = [&className](const char *name) {
-        return className.compare(QLatin1String(name), Qt::CaseInsensitive) == 0;
-    };
+    const auto is
+        = [&className](const char *name) { return className.compare(QLatin1String(name), Qt::CaseInsensitive) == 0; };
     LiveControl live;
     if (is("CustomCheckBox"))
         live = make(new CustomCheckBox(text, parent));

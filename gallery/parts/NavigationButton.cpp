@@ -35,7 +35,7 @@ bool NavigationButton::cDrawContent(QPainter *painter, QStyleOption *option)
     if (m_bCurrent)
         painter->fillRect(MarkerBar, Custom::getDataBaseColor(SkinColor::Accent));
     painter->setPen(option->palette.color(QPalette::ButtonText));
-    painter->drawText(
-        rect().adjusted(Text_Indent, 0, -Text_Indent, 0), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+    painter->drawText(rect().adjusted(Text_Indent, 0, -Text_Indent, 0),
+        Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
     return true;
 }

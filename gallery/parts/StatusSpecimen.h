@@ -25,8 +25,8 @@ class StatusSpecimen : public Control
 {
 public:
     template <class... Arguments>
-    explicit StatusSpecimen(Custom::ItemStatus status, Arguments &&...arguments) :
-        Control(std::forward<Arguments>(arguments)...), m_status(status)
+    explicit StatusSpecimen(Custom::ItemStatus status, Arguments &&...arguments)
+        : Control(std::forward<Arguments>(arguments)...), m_status(status)
     {
         this->setAttribute(Qt::WA_TransparentForMouseEvents);
         this->setFocusPolicy(Qt::NoFocus);
