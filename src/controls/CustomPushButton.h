@@ -30,8 +30,8 @@ public:
     void cSetControlClickEvent(bool enable);
     /// An image behind the content, scaled to the button; shown when the flag ParamBaseBackgroundImage is set and
     /// there is no background colour.
-    void cSetBaseBackgroundImage(const QString &path, Custom::ItemStatus status = Custom::Normal,
-        const QStringList &selectors = QStringList());
+    void cSetBaseBackgroundImage(
+        const QString &path, Custom::ItemStatus status = Custom::Normal, const QStringList &selectors = QStringList());
     /// The icon of one status; that of Normal is also the button's icon() and serves statuses without one.
     void cSetIcon(const QString &path, Custom::ItemStatus status = Custom::Normal);
     void cSetBackgroundAlign(Qt::Alignment alignment); ///< where the background image stands
@@ -51,5 +51,6 @@ protected:
     void customEvent(QEvent *event) override;
 
 private:
+    friend class CustomPushButtonPrivate;
     std::unique_ptr<CustomPushButtonPrivate> d;
 };

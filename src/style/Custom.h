@@ -229,8 +229,8 @@ ZANTHIC_EXPORT void removeChildLayoutItem(QLayout *layout, QLayout *child);
 /// values, indexed by BorderEdge or BorderCorner.
 /// \{
 /// The four radii, at least 0 each. A pair of radii that doesn't fit into its side of \p rect becomes (0, 0).
-ZANTHIC_EXPORT void cNormalizeRadii(const QRect &rect, const QSize *radii, QSize *leftTop, QSize *rightTop,
-    QSize *leftBottom, QSize *rightBottom);
+ZANTHIC_EXPORT void cNormalizeRadii(
+    const QRect &rect, const QSize *radii, QSize *leftTop, QSize *rightTop, QSize *leftBottom, QSize *rightBottom);
 /// The path through the middle of the border, to which a fill is clipped; empty for a box with square corners.
 ZANTHIC_EXPORT QPainterPath cBorderClip(QRect rect, const int *borders, const QSize *radii);
 /// Draws the border of a box.
@@ -240,8 +240,8 @@ ZANTHIC_EXPORT void cDrawBorder(QPainter *painter, const QRect &rect, const Bord
 ZANTHIC_EXPORT void cDrawEdge(QPainter *painter, double x1, double y1, double x2, double y2, double dw1, double dw2,
     BorderEdge edge, BorderStyle style, QBrush brush);
 /// Draws an edge's halves of the two corners at its ends.
-ZANTHIC_EXPORT void cDrawRoundedCorners(QPainter *painter, double x1, double y1, double x2, double y2,
-    const QSizeF &r1, const QSizeF &r2, BorderEdge edge, BorderStyle style, QBrush brush);
+ZANTHIC_EXPORT void cDrawRoundedCorners(QPainter *painter, double x1, double y1, double x2, double y2, const QSizeF &r1,
+    const QSizeF &r2, BorderEdge edge, BorderStyle style, QBrush brush);
 /// \}
 
 } // namespace Custom

@@ -80,20 +80,20 @@ public:
     /// \{
     QFont cFont(Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList()) const;
     /// px; the host's own size where the document has none.
-    int cFontSize(Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(),
-        bool *ok = nullptr) const;
-    QColor cFontColor(Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(),
-        bool *ok = nullptr) const;
+    int cFontSize(
+        Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(), bool *ok = nullptr) const;
+    QColor cFontColor(
+        Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(), bool *ok = nullptr) const;
     /// The host's own family where the document has none.
-    QString cFontFamily(Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(),
-        bool *ok = nullptr) const;
+    QString cFontFamily(
+        Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(), bool *ok = nullptr) const;
     /// A gradient is scaled to \p rect, or to the host when that is empty.
     QBrush cBackgroundColor(Custom::ItemStatus status = Custom::Normal, const QRect &rect = QRect(),
         const QStringList &subs = QStringList(), bool *ok = nullptr) const;
-    QString cBackgroundImage(Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(),
-        bool *ok = nullptr) const;
-    QString cBorderImage(Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(),
-        bool *ok = nullptr) const;
+    QString cBackgroundImage(
+        Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(), bool *ok = nullptr) const;
+    QString cBorderImage(
+        Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList(), bool *ok = nullptr) const;
     /// px. An edge without a value of its own gives 0 here; AllEdge is a value beside the four edges.
     int cBorderWidth(Custom::BorderEdge edge, Custom::ItemStatus status = Custom::Normal,
         const QStringList &subs = QStringList(), bool *ok = nullptr) const;
@@ -106,26 +106,26 @@ public:
     /// \p size in px; above 0 it is set on the host's font at once.
     void cSetFontSize(int size, Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
     /// Colours are given as texts, see Custom::string2Brush(), so that they can follow the skin.
-    void cSetFontColor(const QString &color, Custom::ItemStatus status = Custom::Normal,
-        const QStringList &subs = QStringList());
+    void cSetFontColor(
+        const QString &color, Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
     /// Sets the family on the host's font at once.
-    void cSetFontFamily(const QString &family, Custom::ItemStatus status = Custom::Normal,
-        const QStringList &subs = QStringList());
+    void cSetFontFamily(
+        const QString &family, Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
     /// Family and pixel size, and the host's font. Without a host nothing happens.
-    void cSetFont(const QFont &font, Custom::ItemStatus status = Custom::Normal,
-        const QStringList &subs = QStringList());
-    void cSetBackgroundImage(const QString &path, Custom::ItemStatus status = Custom::Normal,
-        const QStringList &subs = QStringList());
-    void cSetBackgroundColor(const QString &color, Custom::ItemStatus status = Custom::Normal,
-        const QStringList &subs = QStringList());
+    void cSetFont(
+        const QFont &font, Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
+    void cSetBackgroundImage(
+        const QString &path, Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
+    void cSetBackgroundColor(
+        const QString &color, Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
     void cSetBorderWidth(int width, Custom::BorderEdge edge = Custom::AllEdge,
         Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
     void cSetBorderRadius(int radius, Custom::BorderCorner corner = Custom::AllCorner,
         Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
     void cSetBorderColor(const QString &color, Custom::BorderEdge edge = Custom::AllEdge,
         Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
-    void cSetBorderImage(const QString &path, Custom::ItemStatus status = Custom::Normal,
-        const QStringList &subs = QStringList());
+    void cSetBorderImage(
+        const QString &path, Custom::ItemStatus status = Custom::Normal, const QStringList &subs = QStringList());
     /// \}
 
     /// \name Fonts and language
@@ -176,10 +176,10 @@ public:
 protected:
     CustomObjectData *d; ///< the mix-in's private data, owned by CustomQssHelper
 
-    void cDrawPushButton(Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option,
-        QWidget *widget);
-    void cDrawCheckBox(Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option,
-        QWidget *widget);
+    void cDrawPushButton(
+        Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option, QWidget *widget);
+    void cDrawCheckBox(
+        Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option, QWidget *widget);
 
     friend class CustomObjectData;
 };

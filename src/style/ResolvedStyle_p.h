@@ -1,0 +1,71 @@
+#pragma once
+
+// Not part of the API. It may change from version to version without notice.
+
+#include "style/StyleColors_p.h"
+
+#include <QtCore/QSize>
+#include <QtCore/QStringList>
+#include <QtGui/QFont>
+#include <QtGui/QIcon>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+class CustomObjectData;
+
+/// All values that painters read of a control in one status and under one list of sub-selectors, parsed.
+struct ResolvedStyle
+{
+    ResolvedStyle(const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs);
+
+    ParsedBrush background;
+    QString baseBackgroundImage;
+    QString backgroundImage;
+    QString borderImage;
+
+    std::array<int, 4> widths; ///< by Custom::BorderEdge, the value for all edges merged in
+    std::array<QSize, 4> radii; ///< by Custom::BorderCorner, likewise
+    bool hasCommonColor = false; ///< "BorderColor:AllEdge" has a value
+    ParsedBrush commonColor;
+    std::array<bool, 4> hasEdgeColor{}; ///< by Custom::BorderEdge
+    std::array<ParsedBrush, 4> edgeColors;
+
+    QColor fontColor;
+    QString fontFamily; ///< empty where the control has none
+    int fontSize = 0; ///< px; 0 or below where the control has none
+    QIcon icon; ///< null where the control has no attribute "Icon"
+
+    /// The application's font with family and size, where there are any.
+    const QFont &font() const;
+
+private:
+    void readBorder(const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs);
+    void readContent(const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs);
+
+    QFont completeFont(QFont font) const;
+
+    mutable QFont m_oBaseFont;
+    mutable QFont m_oFont;
+};
+
+/// The resolved styles of one table of values, made when first asked for and dropped with the style revision.
+class ResolvedStyles
+{
+public:
+    std::shared_ptr<const ResolvedStyle> get(
+        const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs);
+
+private:
+    struct Entry
+    {
+        Custom::ItemStatus status;
+        QStringList subs;
+        std::shared_ptr<const ResolvedStyle> style;
+    };
+
+    quint64 m_nRevision = 0;
+    std::array<std::shared_ptr<const ResolvedStyle>, 4> m_plain; // without sub-selectors, by status
+    std::vector<Entry> m_lstOthers;
+};

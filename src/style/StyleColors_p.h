@@ -1,0 +1,28 @@
+#pragma once
+
+// Not part of the API. It may change from version to version without notice.
+
+#include <Zanthic/Custom.h>
+
+namespace Custom {
+
+/// A colour of four numbers; invalid when one of them is not from 0 to 255.
+QColor rgbColor(int red, int green, int blue, int alpha);
+
+} // namespace Custom
+
+/// A colour text that is parsed once and gives the same brush as Custom::string2Brush() for any rectangle, as long
+/// as the skin colours stay as they are.
+class ZANTHIC_TEST_EXPORT ParsedBrush
+{
+public:
+    ParsedBrush() = default;
+    explicit ParsedBrush(const QString &text);
+
+    QBrush scaledTo(const QRect &rect) const;
+    const QBrush &unscaled() const { return m_oBrush; } ///< the brush for a null rectangle
+
+private:
+    QBrush m_oBrush;
+    bool m_bGradient = false;
+};

@@ -1,0 +1,90 @@
+#include "support/StyleTest.h"
+
+#include "style/CustomPrivate_p.h"
+#include "style/CustomStyleSheetData_p.h"
+
+#include <QtWidgets/QApplication>
+
+namespace {
+
+QtMessageHandler g_pPreviousHandler = nullptr;
+QStringList g_lstExpected;
+QStringList g_lstUnexpected;
+
+void recordMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtWarningMsg || type == QtCriticalMsg) {
+        for (int i = 0; i < g_lstExpected.size(); ++i) {
+            if (message.contains(g_lstExpected.at(i))) {
+                g_lstExpected.removeAt(i);
+                return;
+            }
+        }
+        g_lstUnexpected.append(message);
+    }
+    g_pPreviousHandler(type, context, message);
+}
+
+} // namespace
+
+StyleTest::StyleTest() = default;
+StyleTest::~StyleTest() = default;
+
+void StyleTest::expectWarning(const QString &part)
+{
+    g_lstExpected.append(part);
+}
+
+QString StyleTest::scratchFile(const QByteArray &text, const QString &suffix)
+{
+    const QString path = m_pDir->filePath(QStringLiteral("scratch%1%2").arg(++m_nFiles).arg(suffix));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("can't write a scratch file");
+    return path;
+}
+
+QString StyleTest::addDocument(const QByteArray &classes)
+{
+    const QString path = scratchFile("<Style>" + classes + "</Style>");
+    Custom::addXmlPath(path);
+    return path;
+}
+
+QString StyleTest::addColors(const QByteArray &colors)
+{
+    const QString path = scratchFile("<Colors><Table>" + colors + "</Table></Colors>");
+    return addDocument(
+        "<Class Name='Colors'><DataBase:Color><File>" + path.toUtf8() + "</File></DataBase:Color></Class>");
+}
+
+QByteArray StyleTest::classXml(const QByteArray &className, const QByteArray &selector, const QByteArray &attributes)
+{
+    return "<Class Name='" + className + "'><Selector Name='" + selector + "'>" + attributes + "</Selector></Class>";
+}
+
+void StyleTest::init()
+{
+    m_pDir = std::make_unique<QTemporaryDir>();
+    m_nFiles = 0;
+    CustomStyleSheetData::reset();
+    CustomPrivate::setIsFontFamilyChange(false);
+    CustomPrivate::setShortcutWidget(nullptr);
+    CustomPrivate::m_AllModalWidget.clear();
+    Custom::clearHotKey();
+    QCursor::setPos(0, 0);
+    g_lstExpected.clear();
+    g_lstUnexpected.clear();
+    g_pPreviousHandler = qInstallMessageHandler(recordMessage);
+}
+
+void StyleTest::cleanup()
+{
+    qInstallMessageHandler(g_pPreviousHandler);
+    m_pDir.reset();
+    QVERIFY2(g_lstUnexpected.isEmpty(), qPrintable(g_lstUnexpected.join(QLatin1Char('\n'))));
+    QVERIFY2(g_lstExpected.isEmpty(),
+        qPrintable(QStringLiteral("no such warning: ") + g_lstExpected.join(QLatin1Char('\n'))));
+    const QWidgetList left = QApplication::topLevelWidgets();
+    QVERIFY2(left.isEmpty(), qPrintable(QStringLiteral("%1 windows left behind").arg(left.size())));
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QObject>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <memory>
+
+/// Base of every test: each test function starts with empty process-wide stores and ends without unexpected warnings
+/// and without windows that it left behind.
+class StyleTest : public QObject
+{
+    Q_OBJECT
+
+public:
+    StyleTest();
+    ~StyleTest() override;
+
+    /// Announces one warning whose text contains \p part; without it a warning fails the test.
+    static void expectWarning(const QString &part);
+
+    /// Writes \p text to a new scratch file and gives its path.
+    QString scratchFile(const QByteArray &text, const QString &suffix = QStringLiteral(".xml"));
+    /// Takes up a style document: \p classes stand below its root element.
+    QString addDocument(const QByteArray &classes);
+    /// Takes up a document whose colours are \p colors: the elements below one "Table" of a skin colour file.
+    QString addColors(const QByteArray &colors);
+    /// "<Selector Name='...'>...</Selector>" in a class of that name.
+    static QByteArray classXml(const QByteArray &className, const QByteArray &selector, const QByteArray &attributes);
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_pDir;
+    int m_nFiles = 0;
+};
+
+/// main() of a test executable: an application with the bundled font.
+#define ZANTHIC_TEST_MAIN(TestClass)                                                                                   \
+    int main(int argc, char *argv[])                                                                                   \
+    {                                                                                                                  \
+        QApplication app(argc, argv);                                                                                  \
+        TestClass test;                                                                                                \
+        return QTest::qExec(&test, argc, argv);                                                                        \
+    }
