@@ -21,8 +21,8 @@
 
 namespace {
 
-constexpr QSize StartSize(1200, 800);
-constexpr int SidebarWidth = 208;
+constexpr QSize StartSize(1216, 800);
+constexpr int SidebarWidth = 224;
 constexpr int Margin = 24;
 constexpr int Gap = 8;
 constexpr int Setting_Height = 32;
@@ -74,7 +74,6 @@ GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent)
     cSetClassName(QStringLiteral("GalleryWindow"));
     m_pScrollArea->setWidgetResizable(true);
     m_pScrollArea->setFrameShape(QFrame::NoFrame);
-    m_pScrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_pScrollArea->setFocusPolicy(Qt::NoFocus);
 
     auto *right = new QVBoxLayout;
@@ -233,7 +232,9 @@ void GalleryWindow::showChoices()
 
 void GalleryWindow::styleScrollArea()
 {
-    m_pScrollArea->verticalScrollBar()->setStyleSheet(Custom::styleSheet(Custom::SheetScrollBar));
+    const QString sheet = Custom::styleSheet(Custom::SheetScrollBar);
+    m_pScrollArea->verticalScrollBar()->setStyleSheet(sheet);
+    m_pScrollArea->horizontalScrollBar()->setStyleSheet(sheet);
 }
 
 void GalleryWindow::retranslate()

@@ -19,9 +19,11 @@
 namespace {
 
 constexpr int Gap = 12;
+constexpr int Example_Gap = 8;
 constexpr QSize Swatch_Size(24, 24);
-constexpr QSize Preview_Size(264, 144);
+constexpr QSize Preview_Size(216, 144);
 constexpr int Flag_Columns = 3;
+constexpr QLatin1String FlagPrefix("Param"); // of each flag's name
 
 struct Example
 {
@@ -33,9 +35,9 @@ const QVector<Example> &examples()
 {
     const auto text = [](const char *words) { return QString::fromLatin1(words); };
     static const QVector<Example> list = {
-        { QT_TRANSLATE_NOOP("EnginePage", "Value of a selector"),
+        { QT_TRANSLATE_NOOP("EnginePage", "From a selector"),
             { text("CustomPushButton"), {}, text("GrayWhite"), {}, text("FontColor"), Custom::Hover } },
-        { QT_TRANSLATE_NOOP("EnginePage", "Value of Default"),
+        { QT_TRANSLATE_NOOP("EnginePage", "From Default"),
             { text("CustomPushButton"), {}, text("GrayWhite"), {}, text("BorderRadius:AllCorner"), Custom::Normal } },
         { QT_TRANSLATE_NOOP("EnginePage", "Fallback to Normal"),
             { text("CustomPushButton"), {}, text("LittleBase"), {}, text("FontSize"), Custom::Pressed } },
@@ -118,13 +120,14 @@ QWidget *EnginePage::createStatusChooser()
 
 void EnginePage::addExamples(Card *card)
 {
-    QList<QWidget *> buttons = { text(QT_TR_NOOP("Examples"), TextLabel::Caption) };
+    QList<QWidget *> buttons;
     for (const Example &example : examples()) {
         auto *button = translated(new Roomy<CustomPushButton>(this, CustomPushButton::GrayWhite), example.caption);
         connect(button, &CustomPushButton::clicked, this, [this, example] { setQuery(example.query); });
         buttons << button;
     }
-    card->add(row(buttons, Gap));
+    card->add(text(QT_TR_NOOP("Examples"), TextLabel::Caption));
+    card->add(row(buttons, Example_Gap));
 }
 
 void EnginePage::addAnswer()
@@ -216,7 +219,7 @@ QLayout *EnginePage::createFlags()
     const QMetaEnum names = QMetaEnum::fromType<Custom::ObjectParameter>();
     for (int i = 0; i < names.keyCount(); ++i) {
         const auto flag = Custom::ObjectParameter(names.value(i));
-        auto *box = new CustomCheckBox(QString::fromLatin1(names.key(i)), this);
+        auto *box = new CustomCheckBox(QString::fromLatin1(names.key(i)).mid(FlagPrefix.size()), this);
         connect(box, &CustomCheckBox::sigStateChanged, this, [this, flag](int state) {
             m_live.object->cSetParameter(flag, state == Qt::Checked);
             controlChanged();

@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Each corner has its own radius. A pair of radii that doesn&apos;t fit into its side is dropped.</source>
-        <translation>每个角都有自己的半径。若一条边容不下两端的半径,则这一对半径不起作用。</translation>
+        <translation>每个角都有自己的半径。若一条边容不下两端的半径，则这一对半径不起作用。</translation>
     </message>
     <message>
         <source>two corners</source>
@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>64 px, too large</source>
-        <translation>64 px,过大</translation>
+        <translation>64 px，过大</translation>
     </message>
     <message>
         <source>A colour for each edge</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>Edges meet in a mitre, and on a round corner the colour changes on the diagonal.</source>
-        <translation>相邻两边以斜角相接;在圆角处,颜色沿对角线变化。</translation>
+        <translation>相邻两边以斜角相接；在圆角处，颜色沿对角线变化。</translation>
     </message>
     <message>
         <source>thin</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>A gradient is a text like any colour; its stops may name colours of the skin.</source>
-        <translation>渐变与颜色一样用文本表示,其色标可以引用皮肤中的颜色。</translation>
+        <translation>渐变与颜色一样用文本表示，其色标可以引用皮肤中的颜色。</translation>
     </message>
     <message>
         <source>to the right</source>
@@ -97,7 +97,7 @@
     </message>
     <message>
         <source>Themed boxes have solid borders. The other styles are there for Custom::cDrawBorder().</source>
-        <translation>主题中的方框均为实线边框,其他样式供 Custom::cDrawBorder() 使用。</translation>
+        <translation>主题中的方框均为实线边框，其他样式供 Custom::cDrawBorder() 使用。</translation>
     </message>
 </context>
 <context>
@@ -108,7 +108,7 @@
     </message>
     <message>
         <source>Each row is a selector of the style document, each column a status of it.</source>
-        <translation>每一行对应样式文档中的一个选择器,每一列对应一种状态。</translation>
+        <translation>每一行对应样式文档中的一个选择器，每一列对应一种状态。</translation>
     </message>
     <message>
         <source>Button</source>
@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>Clicks: %1</source>
-        <translation>点击次数:%1</translation>
+        <translation>点击次数：%1</translation>
     </message>
 </context>
 <context>
@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>Only the indicator reacts to the mouse, not the text beside it.</source>
-        <translation>只有方框响应鼠标,旁边的文字不响应。</translation>
+        <translation>只有方框响应鼠标，旁边的文字不响应。</translation>
     </message>
     <message>
         <source>Option</source>
@@ -223,7 +223,7 @@
     </message>
     <message>
         <source>All of a radio button reacts, its text as well.</source>
-        <translation>整个单选按钮都响应鼠标,包括文字。</translation>
+        <translation>整个单选按钮都响应鼠标，包括文字。</translation>
     </message>
     <message>
         <source>Choice</source>
@@ -243,7 +243,7 @@
     </message>
     <message>
         <source>sigStateChanged() tells of clicks alone; a change from code is counted by nobody.</source>
-        <translation>sigStateChanged() 只通知用户的点击;由代码作出的更改不计入。</translation>
+        <translation>sigStateChanged() 只通知用户的点击；由代码作出的更改不计入。</translation>
     </message>
     <message>
         <source>Change from code</source>
@@ -255,18 +255,18 @@
     </message>
     <message>
         <source>Changes by the user: %1</source>
-        <translation>用户更改次数:%1</translation>
+        <translation>用户更改次数：%1</translation>
     </message>
 </context>
 <context>
     <name>EnginePage</name>
     <message>
-        <source>Value of a selector</source>
-        <translation>选择器的值</translation>
+        <source>From a selector</source>
+        <translation>取自选择器</translation>
     </message>
     <message>
-        <source>Value of Default</source>
-        <translation>Default 的值</translation>
+        <source>From Default</source>
+        <translation>取自 Default</translation>
     </message>
     <message>
         <source>Fallback to Normal</source>
@@ -330,7 +330,7 @@
     </message>
     <message>
         <source>The first override of an attribute empties all that the document says of it, in every status, until the document is taken anew.</source>
-        <translation>首次覆盖某个属性时,文档为该属性给出的所有状态的值都会被清空,直到重新读取文档为止。</translation>
+        <translation>首次覆盖某个属性时，文档为该属性给出的所有状态的值都会被清空，直到重新读取文档为止。</translation>
     </message>
     <message>
         <source>Override of the attribute in the status above</source>
@@ -358,7 +358,7 @@
     </message>
     <message>
         <source>(no value)</source>
-        <translation>(无值)</translation>
+        <translation>（无值）</translation>
     </message>
     <message>
         <source>emptied by the first override</source>
@@ -370,7 +370,7 @@
     </message>
     <message>
         <source>document, %1</source>
-        <translation>文档,%1</translation>
+        <translation>文档，%1</translation>
     </message>
     <message>
         <source>It stands nowhere on the way.</source>
@@ -378,15 +378,15 @@
     </message>
     <message>
         <source>Found at: %1.</source>
-        <translation>找到位置:%1。</translation>
+        <translation>找到位置：%1。</translation>
     </message>
     <message>
         <source>%1 has none, so that of Normal counts.</source>
-        <translation>“%1”状态没有值,因此采用正常状态的值。</translation>
+        <translation>“%1”状态没有值，因此采用正常状态的值。</translation>
     </message>
     <message>
         <source>&quot;#Empty#&quot; says that there is no value, and ends the search.</source>
-        <translation>“#Empty#”表示没有值,并结束查找。</translation>
+        <translation>“#Empty#”表示没有值，并结束查找。</translation>
     </message>
     <message>
         <source>Names are compared without regard to case. Sub-selectors are separated by commas.</source>
@@ -463,7 +463,7 @@ Ctrl+E 启用或禁用</translation>
     </message>
     <message>
         <source>What every control is painted from: fills, borders, corners, images.</source>
-        <translation>所有控件的绘制基础:填充、边框、圆角与图像。</translation>
+        <translation>所有控件的绘制基础：填充、边框、圆角与图像。</translation>
     </message>
     <message>
         <source>Push buttons</source>
@@ -471,7 +471,7 @@ Ctrl+E 启用或禁用</translation>
     </message>
     <message>
         <source>Five looks, four statuses, icons at any side, and the click guard.</source>
-        <translation>五种外观、四种状态、任意一侧的图标,以及防连击。</translation>
+        <translation>五种外观、四种状态、任意一侧的图标，以及防连击。</translation>
     </message>
     <message>
         <source>Checks and switches</source>
@@ -487,7 +487,7 @@ Ctrl+E 启用或禁用</translation>
     </message>
     <message>
         <source>Ask for an attribute and see where its value comes from.</source>
-        <translation>查询一个属性,查看其值的来源。</translation>
+        <translation>查询一个属性，查看其值的来源。</translation>
     </message>
 </context>
 </TS>
