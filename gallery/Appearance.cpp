@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int ApplicationFontSize = 14; // px, what the theme's controls use as well
-
 QString after(const QStringList &names, const QString &name)
 {
     return names.value((names.indexOf(name) + 1) % qMax(1, names.size()));
@@ -85,7 +83,4 @@ void Appearance::setLibraryLanguage()
 {
     // Every document taken up, a skin change included, sets the family in force back to that of the first language.
     Custom::setLanguage(libraryLanguage(m_language));
-    QFont font(Custom::globalFontFamily());
-    font.setPixelSize(ApplicationFontSize);
-    QApplication::setFont(font);
 }

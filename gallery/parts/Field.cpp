@@ -9,7 +9,7 @@
 
 Field::Field(QWidget *parent) : QLineEdit(parent)
 {
-    takeSkinColors();
+    takeStyle();
 }
 
 Field::~Field() = default;
@@ -28,21 +28,31 @@ bool Field::event(QEvent *event)
     return QLineEdit::event(event);
 }
 
+void Field::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        takeStyle();
+    QLineEdit::changeEvent(event);
+}
+
 void Field::customEvent(QEvent *event)
 {
     if (int(event->type()) == ChangeSkinEvent::EventType)
-        takeSkinColors();
+        takeStyle();
 }
 
-void Field::takeSkinColors()
+void Field::takeStyle()
 {
     const auto color = [](QLatin1String name) { return Custom::getDataBaseColor(name).color().name(); };
-    const QString sheet = QStringLiteral(
-        "QLineEdit { background: %1; color: %2; border: 1px solid %3; border-radius: 4px; padding: 0 8px;"
-        " min-height: 30px; selection-background-color: %4; selection-color: %5; }"
-        "QLineEdit:focus { border-color: %6; }"
-        "QLineEdit:disabled { background: %7; color: %8; border-color: %9; }");
-    setStyleSheet(sheet.arg(color(SkinColor::Field), color(SkinColor::Text), color(SkinColor::FieldBorder),
-        color(SkinColor::Selection), color(SkinColor::SelectionText), color(SkinColor::FieldBorderFocus),
-        color(SkinColor::FieldDisabled), color(SkinColor::DisabledText), color(SkinColor::FieldBorderDisabled)));
+    const QString sheet = QStringLiteral("QLineEdit { font-family: \"%10\"; font-size: 14px; background: %1; color: "
+                                         "%2; border: 1px solid %3; border-radius: 4px; padding: 0 8px;"
+                                         " min-height: 30px; selection-background-color: %4; selection-color: %5; }"
+                                         "QLineEdit:focus { border-color: %6; }"
+                                         "QLineEdit:disabled { background: %7; color: %8; border-color: %9; }");
+    setStyleSheet(
+        sheet
+            .arg(color(SkinColor::Field), color(SkinColor::Text), color(SkinColor::FieldBorder),
+                color(SkinColor::Selection), color(SkinColor::SelectionText), color(SkinColor::FieldBorderFocus),
+                color(SkinColor::FieldDisabled), color(SkinColor::DisabledText), color(SkinColor::FieldBorderDisabled))
+            .arg(Custom::globalFontFamily()));
 }

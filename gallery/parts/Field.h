@@ -2,7 +2,7 @@
 
 #include <QtWidgets/QLineEdit>
 
-/// A line of input in the colours of the skin that leaves the window's shortcuts alone.
+/// A line of input in the colours of the skin and the font of the language that leaves the window's shortcuts alone.
 class Field : public QLineEdit
 {
     Q_OBJECT
@@ -13,8 +13,9 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void customEvent(QEvent *event) override;
 
 private:
-    void takeSkinColors();
+    void takeStyle();
 };

@@ -35,21 +35,36 @@ RoleLook lookOf(TextLabel::Role role)
 
 TextLabel::TextLabel(Role role, QWidget *parent) : QLabel(parent), m_role(role)
 {
-    // The family stays unset: it comes from the application's font, which follows the language.
     QFont font;
     font.setPixelSize(lookOf(role).size);
     font.setWeight(lookOf(role).weight);
     setFont(font);
+    takeFontFamily();
     setTextFormat(Qt::PlainText);
     takeSkinColor();
 }
 
 TextLabel::~TextLabel() = default;
 
+void TextLabel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        takeFontFamily();
+    QLabel::changeEvent(event);
+}
+
 void TextLabel::customEvent(QEvent *event)
 {
     if (int(event->type()) == ChangeSkinEvent::EventType)
         takeSkinColor();
+}
+
+void TextLabel::takeFontFamily()
+{
+    // Set on the label itself: the themed boxes around it set theirs and don't follow a change of language.
+    QFont own = font();
+    own.setFamily(Custom::globalFontFamily());
+    setFont(own);
 }
 
 void TextLabel::takeSkinColor()

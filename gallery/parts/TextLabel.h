@@ -2,7 +2,7 @@
 
 #include <QtWidgets/QLabel>
 
-/// A text in one of the gallery's type sizes whose colour follows the skin.
+/// A text in one of the gallery's type sizes whose colour follows the skin, and its family the language.
 class TextLabel : public QLabel
 {
     Q_OBJECT
@@ -14,9 +14,11 @@ public:
     ~TextLabel() override;
 
 protected:
+    void changeEvent(QEvent *event) override;
     void customEvent(QEvent *event) override;
 
 private:
+    void takeFontFamily();
     void takeSkinColor();
 
     Role m_role;

@@ -11,6 +11,7 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollArea>
 
 namespace {
@@ -60,6 +61,19 @@ QStringList clippedTexts(const QWidget *window)
     return clipped;
 }
 
+/// Texts in another family than that of the language.
+QStringList textsInOtherFamily(const QWidget *window)
+{
+    QStringList others;
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
+        const bool hasText = qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget)
+            || qobject_cast<const QLineEdit *>(widget);
+        if (hasText && !widget->isHidden() && widget->font().family() != Custom::globalFontFamily())
+            others << describe(widget) + QLatin1String(" in ") + widget->font().family();
+    }
+    return others;
+}
+
 void addPages()
 {
     for (const QString &page : pageNames())
@@ -77,6 +91,8 @@ private Q_SLOTS:
     void pageOpens();
     void changeThereAndBackGivesTheSamePicture_data();
     void changeThereAndBackGivesTheSamePicture();
+    void fontFollowsTheLanguage_data();
+    void fontFollowsTheLanguage();
     void keyActsOnTheWholeWindow_data();
     void keyActsOnTheWholeWindow();
     void wheelOfPagesLeavesOnePage();
@@ -137,6 +153,26 @@ void tst_Gallery::changeThereAndBackGivesTheSamePicture()
     gallery.appearance.nextSkin();
     gallery.appearance.nextLanguage();
     QCOMPARE(gallery.picture(), otherSkin);
+}
+
+void tst_Gallery::fontFollowsTheLanguage_data()
+{
+    QTest::addColumn<QString>("page");
+    addPages();
+}
+
+void tst_Gallery::fontFollowsTheLanguage()
+{
+    QFETCH(QString, page);
+    Gallery gallery(page);
+    gallery.picture();
+    QCOMPARE(textsInOtherFamily(gallery.window.get()).join(QLatin1Char('\n')), QString());
+    gallery.appearance.nextLanguage();
+    gallery.picture();
+    QCOMPARE(textsInOtherFamily(gallery.window.get()).join(QLatin1Char('\n')), QString());
+    gallery.appearance.nextSkin();
+    gallery.picture();
+    QCOMPARE(textsInOtherFamily(gallery.window.get()).join(QLatin1Char('\n')), QString());
 }
 
 void tst_Gallery::keyActsOnTheWholeWindow_data()
