@@ -43,6 +43,7 @@ void Field::customEvent(QEvent *event)
 
 void Field::takeStyle()
 {
+    // Not the family in force: while a skin change is being told, that is still the one of the first language.
     const auto color = [](QLatin1String name) { return Custom::getDataBaseColor(name).color().name(); };
     const QString sheet = QStringLiteral("QLineEdit { font-family: \"%10\"; font-size: 14px; background: %1; color: "
                                          "%2; border: 1px solid %3; border-radius: 4px; padding: 0 8px;"
@@ -54,5 +55,5 @@ void Field::takeStyle()
             .arg(color(SkinColor::Field), color(SkinColor::Text), color(SkinColor::FieldBorder),
                 color(SkinColor::Selection), color(SkinColor::SelectionText), color(SkinColor::FieldBorderFocus),
                 color(SkinColor::FieldDisabled), color(SkinColor::DisabledText), color(SkinColor::FieldBorderDisabled))
-            .arg(Custom::globalFontFamily()));
+            .arg(Custom::globalFontFamily(Custom::language())));
 }
