@@ -19,6 +19,8 @@
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QShortcut>
 
+#include <functional>
+
 namespace {
 
 constexpr QSize StartSize(1216, 800);
@@ -87,6 +89,12 @@ GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent)
     all->addLayout(right, 1);
 
     createShortcuts();
+    // By clicks only: showing a choice that was made elsewhere must not make it again.
+    const auto clicked = QOverload<QAbstractButton *>::of(&QButtonGroup::buttonClicked);
+    connect(m_pSkinGroup, clicked, this,
+        [this](QAbstractButton *chosen) { m_pAppearance->applySkin(chosen->objectName()); });
+    connect(m_pLanguageGroup, clicked, this,
+        [this](QAbstractButton *chosen) { m_pAppearance->applyLanguage(chosen->objectName()); });
     connect(m_pAppearance, &Appearance::skinChanged, this, &GalleryWindow::showChoices);
     connect(m_pAppearance, &Appearance::languageChanged, this, &GalleryWindow::showChoices);
     styleScrollArea();
@@ -137,15 +145,13 @@ QWidget *GalleryWindow::createHeader()
     layout->setContentsMargins(Margin, Gap * 2, Margin, Gap * 2);
     layout->setSpacing(Margin);
     layout->addLayout(titles, 1);
-    layout->addWidget(createChooser(Appearance::skins(), m_pSkinGroup, &m_pSkinCaption, &Appearance::applySkin));
-    layout->addWidget(
-        createChooser(Appearance::languages(), m_pLanguageGroup, &m_pLanguageCaption, &Appearance::applyLanguage));
+    layout->addWidget(createChooser(Appearance::skins(), m_pSkinGroup, &m_pSkinCaption));
+    layout->addWidget(createChooser(Appearance::languages(), m_pLanguageGroup, &m_pLanguageCaption));
     layout->addWidget(createEnableSwitch());
     return header;
 }
 
-QWidget *GalleryWindow::createChooser(
-    const QStringList &names, QButtonGroup *group, TextLabel **caption, void (Appearance::*apply)(const QString &))
+QWidget *GalleryWindow::createChooser(const QStringList &names, QButtonGroup *group, TextLabel **caption)
 {
     auto *chooser = new QWidget(this);
     auto *buttons = new QHBoxLayout;
@@ -155,8 +161,6 @@ QWidget *GalleryWindow::createChooser(
         button->setObjectName(name);
         group->addButton(button);
         buttons->addWidget(button);
-        // On a click only: showing a choice made elsewhere must not make it again.
-        connect(button, &CustomRadioButton::clicked, this, [this, apply, name] { (m_pAppearance->*apply)(name); });
     }
     addSetting(chooser, *caption = new TextLabel(TextLabel::Caption, chooser), buttons);
     return chooser;
@@ -177,12 +181,15 @@ QWidget *GalleryWindow::createEnableSwitch()
 
 void GalleryWindow::createShortcuts()
 {
-    const auto add = [this](int key, auto slot) {
-        connect(new QShortcut(QKeySequence(int(Qt::CTRL) | key), this), &QShortcut::activated, this, slot);
+    const QVector<QPair<Qt::Key, std::function<void()>>> keys = {
+        { Qt::Key_T, [this] { m_pAppearance->nextSkin(); } },
+        { Qt::Key_L, [this] { m_pAppearance->nextLanguage(); } },
+        { Qt::Key_E, [this] { m_pEnabled->toggle(); } },
     };
-    add(Qt::Key_T, [this] { m_pAppearance->nextSkin(); });
-    add(Qt::Key_L, [this] { m_pAppearance->nextLanguage(); });
-    add(Qt::Key_E, [this] { m_pEnabled->toggle(); });
+    for (const auto &[key, action] : keys) {
+        auto *shortcut = new QShortcut(QKeySequence(int(Qt::CTRL) | int(key)), this);
+        connect(shortcut, &QShortcut::activated, this, action);
+    }
 }
 
 void GalleryWindow::openPage(const QString &name)

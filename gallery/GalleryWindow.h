@@ -43,8 +43,7 @@ private:
     QWidget *createSidebar();
     QWidget *createHeader();
     QWidget *createEnableSwitch();
-    QWidget *createChooser(
-        const QStringList &names, QButtonGroup *group, TextLabel **caption, void (Appearance::*apply)(const QString &));
+    QWidget *createChooser(const QStringList &names, QButtonGroup *group, TextLabel **caption);
     void createShortcuts();
     void setPageEnabled(bool enabled);
     void showChoices();

@@ -159,6 +159,7 @@ void BoxesPage::addImages()
         box->setFixedSize(size);
         box->cSetBorderWidth(16);
         box->cSetBorderRadius(0);
+        box->cSetBackgroundColor(SkinColor::Transparent);
         box->cSetBorderImage(QStringLiteral(":/Gallery/images/frame.png"));
         boxes << captioned(box, QT_TR_NOOP("border image"));
     }

@@ -38,7 +38,8 @@ void ColorRectSpecimen::takeSkinColors()
 {
     const QRect top(0, 0, width(), ColorRect_StripHeight);
     cSetColorRect(0, top, Custom::getDataBaseColor(SkinColor::Accent));
-    cSetColorRect(1, top.translated(0, height() - ColorRect_StripHeight), Custom::getDataBaseColor(SkinColor::Line));
+    cSetColorRect(
+        1, top.translated(0, height() - ColorRect_StripHeight), Custom::getDataBaseColor(SkinColor::FieldBorder));
     cSetColorRect(2, rect().translated(1, 0), Qt::red);
 }
 

@@ -9,6 +9,7 @@ constexpr QLatin1String QuietText("DB_COLOR_Custom_Font_Secondary");
 constexpr QLatin1String DisabledText("DB_COLOR_Custom_Font_Disabled");
 constexpr QLatin1String Accent("DB_COLOR_Custom_Accent");
 constexpr QLatin1String Surface("DB_COLOR_Custom_Surface");
+constexpr QLatin1String Transparent("DB_COLOR_Custom_Transparent");
 constexpr QLatin1String Line("DB_COLOR_Custom_Frame_Border");
 constexpr QLatin1String Field("DB_COLOR_Custom_Field");
 constexpr QLatin1String FieldDisabled("DB_COLOR_Custom_Field_Disabled");

@@ -294,7 +294,7 @@
     </message>
     <message>
         <source>Parent class</source>
-        <translation>父类</translation>
+        <translation>外层类</translation>
     </message>
     <message>
         <source>Selector</source>
