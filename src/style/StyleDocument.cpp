@@ -25,7 +25,6 @@ const QLatin1String s_strSeparator("##");
 // A document nested deeper than this would exhaust the stack of the XML library, which walks it by recursion.
 constexpr int kMaxElementDepth = 512;
 
-QSharedPointer<CustomStyleSheetData> m_xmlSharePointData;
 quint64 g_nRevision = 1;
 
 // Qt has no other reader that sees a document as QDomDocument does, entities and encodings included.
@@ -70,6 +69,12 @@ bool isTooDeep(const QByteArray &bytes)
 }
 
 QT_WARNING_POP
+
+QSharedPointer<CustomStyleSheetData> &xmlSharePointData()
+{
+    static QSharedPointer<CustomStyleSheetData> m_xmlSharePointData;
+    return m_xmlSharePointData;
+}
 
 bool readFile(const QString &path, QByteArray *bytes)
 {
@@ -139,7 +144,7 @@ void notifyAllWidgets()
 
 CustomStyleSheetData *CustomStyleSheetData::instance()
 {
-    return m_xmlSharePointData.data();
+    return xmlSharePointData().data();
 }
 
 quint64 CustomStyleSheetData::revision()
@@ -156,15 +161,15 @@ void CustomStyleSheetData::invalidateDerived()
 
 void CustomStyleSheetData::reset()
 {
-    m_xmlSharePointData.reset();
+    xmlSharePointData().reset();
     clearStyleSheets();
     invalidateDerived();
 }
 
 void Custom::initStyleSheetDataPointer()
 {
-    if (!m_xmlSharePointData)
-        m_xmlSharePointData.reset(new (std::nothrow) CustomStyleSheetData);
+    if (!xmlSharePointData())
+        xmlSharePointData().reset(new (std::nothrow) CustomStyleSheetData);
 }
 
 void Custom::initXmlInfo(const QString &path)
