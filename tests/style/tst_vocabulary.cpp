@@ -1,8 +1,8 @@
 #include "support/StyleTest.h"
 
+#include "StyleHost.h"
 #include "style/CustomStyleSheetData_p.h"
 #include "style/StyleColors_p.h"
-#include "StyleHost.h"
 
 #include <QtCore/QMetaEnum>
 #include <QtGui/QLinearGradient>
@@ -294,7 +294,8 @@ void TestVocabulary::gradientParse_data()
     QTest::addColumn<QPointF>("end");
     const QString good = QStringLiteral("qlineargradient(x1:0.1; y1:0.2; x2:1; y2:0.5**stop:0 #000000;)");
     const QRect rect(5, 6, 200, 100);
-    const auto coordinates = [](const char *text) -> QString { return QLatin1String(text) + QStringLiteral("**stop:0 #fff;)"); };
+    const auto coordinates
+        = [](const char *text) -> QString { return QLatin1String(text) + QStringLiteral("**stop:0 #fff;)"); };
     QTest::newRow("null rectangle") << good << QRect() << true << QPointF(0.1, 0.2) << QPointF(1, 0.5);
     QTest::newRow("scaled") << good << rect << true << QPointF(20, 20) << QPointF(200, 50);
     QTest::newRow("empty rectangle") << good << QRect(0, 0, 0, 9) << true << QPointF(0.1, 0.2) << QPointF(1, 0.5);
@@ -339,8 +340,7 @@ void TestVocabulary::gradientStops_data()
     QTest::newRow("stop:0 #ff0000;stop:1 #00ff00)") << QStringLiteral("0 #ffff0000, 1 ");
     QTest::newRow("stop:0 nonsense;)") << QStringLiteral("0 ");
     QTest::newRow("stop:0 #ff0000;stop:0 #00ff00;)") << QStringLiteral("0 #ff00ff00");
-    QTest::newRow("stop:-1 #ff0000;stop:0.5 #00ff00;stop:1.01 #ff0000;)")
-        << QStringLiteral("0.5 #ff00ff00");
+    QTest::newRow("stop:-1 #ff0000;stop:0.5 #00ff00;stop:1.01 #ff0000;)") << QStringLiteral("0.5 #ff00ff00");
 }
 
 void TestVocabulary::gradientStops()
@@ -360,8 +360,8 @@ void TestVocabulary::gradientBrushTakesTextThatDoesNotParse()
     const QBrush brush = Custom::string2Brush(QStringLiteral("  QLINEARGRADIENT nonsense"), QRect(0, 0, 9, 9));
     QCOMPARE(brush.style(), Qt::LinearGradientPattern);
     QCOMPARE(gradientOf(brush).finalStop(), QPointF(1, 1));
-    QCOMPARE(gradientOf(Custom::string2Brush(QStringLiteral(" qlineargradient(x1:0;y1:0;x2:1;y2:1**stop:0 #fff;) "),
-                            QRect(0, 0, 9, 5)))
+    QCOMPARE(gradientOf(Custom::string2Brush(
+                            QStringLiteral(" qlineargradient(x1:0;y1:0;x2:1;y2:1**stop:0 #fff;) "), QRect(0, 0, 9, 5)))
                  .finalStop(),
         QPointF(9, 5));
     // A gradient brush has a style and no colour.
