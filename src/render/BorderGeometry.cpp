@@ -113,25 +113,36 @@ void drawArcs(QPainter *painter, const Band &band, const QSizeF &r1, const QSize
 
 } // namespace
 
-void Custom::cDrawBorder(QPainter *painter, const QRect &rect, const BorderStyle *styles, const int *borders,
-    const QBrush *colors, const QSize *radii)
+std::vector<BorderLayout::EdgeJob> BorderLayout::edgeJobs(
+    const QRect &rect, const BorderStyle *styles, const int *borders, const QBrush *colors, const QSize *radii)
 {
     QSize tl, tr, bl, br;
     cNormalizeRadii(rect, radii, &tl, &tr, &bl, &br);
     const QSize normalized[] = { tl, tr, bl, br };
+    std::vector<EdgeJob> jobs;
     for (const BorderEdge edge : { Bottom, Right, Left, Top }) {
         if (styles[edge] == BorderNone || borders[edge] <= 0)
             continue;
-        const BorderLayout::EdgePlace place = BorderLayout::edgePlace(edge, rect, borders, normalized);
+        const EdgePlace place = edgePlace(edge, rect, borders, normalized);
         const auto overhang = [&](int radius, BorderEdge neighbour) {
             return radius != 0 || cPaintsOver(styles, colors, edge, neighbour) ? 0 : borders[neighbour];
         };
-        const Band &band = place.band;
-        cDrawEdge(painter, band.x1, band.y1, band.x2, band.y2, overhang(place.startRadius, place.startNeighbour),
-            overhang(place.endRadius, place.endNeighbour), edge, styles[edge], colors[edge]);
-        if (place.startRadius != 0 || place.endRadius != 0)
-            cDrawRoundedCorners(painter, band.x1, band.y1, band.x2, band.y2, QSizeF(place.r1), QSizeF(place.r2), edge,
-                styles[edge], colors[edge]);
+        jobs.push_back({ place, edge, overhang(place.startRadius, place.startNeighbour),
+            overhang(place.endRadius, place.endNeighbour) });
+    }
+    return jobs;
+}
+
+void Custom::cDrawBorder(QPainter *painter, const QRect &rect, const BorderStyle *styles, const int *borders,
+    const QBrush *colors, const QSize *radii)
+{
+    for (const BorderLayout::EdgeJob &job : BorderLayout::edgeJobs(rect, styles, borders, colors, radii)) {
+        const Band &band = job.place.band;
+        cDrawEdge(painter, band.x1, band.y1, band.x2, band.y2, job.dw1, job.dw2, job.edge, styles[job.edge],
+            colors[job.edge]);
+        if (job.place.startRadius != 0 || job.place.endRadius != 0)
+            cDrawRoundedCorners(painter, band.x1, band.y1, band.x2, band.y2, QSizeF(job.place.r1), QSizeF(job.place.r2),
+                job.edge, styles[job.edge], colors[job.edge]);
     }
 }
 

@@ -10,6 +10,7 @@
 #include <QtCore/QSizeF>
 
 #include <array>
+#include <vector>
 
 /// Where the parts of a border lie: pure functions of numbers.
 namespace BorderLayout {
@@ -47,6 +48,18 @@ struct Arc
     int span; ///< sixteenths of a degree
 };
 
+/// One edge to be drawn, with its mitres.
+struct EdgeJob
+{
+    EdgePlace place;
+    Custom::BorderEdge edge;
+    int dw1;
+    int dw2;
+};
+
+/// The edges of a box that are drawn, from back to front.
+std::vector<EdgeJob> edgeJobs(
+    const QRect &rect, const Custom::BorderStyle *styles, const int *borders, const QBrush *colors, const QSize *radii);
 /// \p radii are normalised, by Custom::BorderCorner.
 EdgePlace edgePlace(Custom::BorderEdge edge, const QRect &rect, const int *borders, const QSize *radii);
 /// The corners of an edge that is mitred by \p dw1 and \p dw2, in drawing order.

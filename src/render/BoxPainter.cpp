@@ -2,10 +2,9 @@
 
 #include <Zanthic/CustomObject.h>
 
-#include "render/BorderGeometry_p.h"
 #include "render/BoxPainter_p.h"
+#include "render/HintGuard_p.h"
 #include "style/CustomObject_p.h"
-#include "style/StyleImages_p.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
@@ -23,29 +22,6 @@ int toCoordinate(qint64 value)
 {
     return int(qBound(-kFarCoordinate, value, kFarCoordinate));
 }
-
-// Sets a render hint and puts it back.
-class HintGuard
-{
-public:
-    HintGuard(QPainter *painter, QPainter::RenderHint hint)
-        : m_pPainter(painter), m_nHint(hint), m_bWasOn(painter->testRenderHint(hint))
-    {
-        if (!m_bWasOn)
-            painter->setRenderHint(hint, true);
-    }
-    ~HintGuard()
-    {
-        if (!m_bWasOn)
-            m_pPainter->setRenderHint(m_nHint, false);
-    }
-    Q_DISABLE_COPY(HintGuard)
-
-private:
-    QPainter *m_pPainter;
-    QPainter::RenderHint m_nHint;
-    bool m_bWasOn;
-};
 
 // The widths and radii that the control's flags let through.
 void readMetrics(const CustomObjectData &data, const ResolvedStyle &style, CustomObjectData::BorderParameter *parameter)
@@ -70,21 +46,12 @@ void readColors(const CustomObjectData &data, const ResolvedStyle &style, const 
     }
 }
 
-void fillBox(const CustomObjectData &data, const ResolvedStyle &style, QPainter *painter, const QRect &rect)
+void fillBackground(const CustomObjectData &data, const ResolvedStyle &style, QPainter *painter, const QRect &rect)
 {
     const QRect scale = rect.isEmpty() && data.widget ? data.widget->rect() : rect;
-    const QBrush brush = style.background.scaledTo(scale);
-    if (data.hasParameter(Custom::ParamBorderWidth) || data.hasParameter(Custom::ParamBorderRadius)) {
-        CustomObjectData::BorderParameter parameter;
-        readMetrics(data, style, &parameter);
-        const QPainterPath path = BoxPainter::clipPath(rect, parameter);
-        if (!path.isEmpty()) {
-            const HintGuard guard(painter, QPainter::Antialiasing);
-            painter->fillPath(path, brush);
-            return;
-        }
-    }
-    painter->fillRect(rect, brush);
+    CustomObjectData::BorderParameter parameter;
+    readMetrics(data, style, &parameter);
+    BoxPainter::fillBox(painter, rect, parameter, style.background.scaledTo(scale));
 }
 
 // The alignment is read for the resting control whatever the status of the paint.
@@ -96,10 +63,10 @@ Qt::Alignment imageAlignment(const CustomObject &object)
 }
 
 void drawBorderImage(
-    QPainter *painter, const QRect &rect, const QString &path, const CustomObjectData::BorderParameter &parameter)
+    QPainter *painter, const QRect &rect, const StyleImage &image, const CustomObjectData::BorderParameter &parameter)
 {
     const qreal deviceRatio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
-    QPixmap pixmap = StyleImages::pixmapForRatio(path, deviceRatio);
+    QPixmap pixmap = image.pixmapForRatio(deviceRatio);
     const qreal ratio = pixmap.devicePixelRatio();
     pixmap.setDevicePixelRatio(1.0);
     const QMargins margins(parameter.borders[Custom::Left], parameter.borders[Custom::Top],
@@ -131,15 +98,15 @@ bool CustomObject::cDrawBackground(
     const std::shared_ptr<const ResolvedStyle> style = d->resolved(status, selectors);
     bool painted = false;
     if (d->hasParameter(Custom::ParamBackgroundColor)) {
-        fillBox(*d, *style, painter, rect);
+        fillBackground(*d, *style, painter, rect);
         painted = true;
     } else if (d->hasParameter(Custom::ParamBaseBackgroundImage)) {
-        StyleImages::draw(painter, rect, style->baseBackgroundImage);
+        style->baseBackgroundImage.draw(painter, rect);
     }
     if (d->hasParameter(Custom::ParamBackgroundImage)) {
-        const QSize size = StyleImages::pixmap(style->backgroundImage).size();
-        StyleImages::draw(
-            painter, QStyle::alignedRect(Qt::LeftToRight, imageAlignment(*this), size, rect), style->backgroundImage);
+        const QRect target
+            = QStyle::alignedRect(Qt::LeftToRight, imageAlignment(*this), style->backgroundImage.size(), rect);
+        style->backgroundImage.draw(painter, target);
         painted = true;
     }
     return painted;
@@ -160,7 +127,6 @@ bool CustomObject::cDrawBorder(
     if (!d->hasParameter(Custom::ParamBorderWidth))
         return false;
     readColors(*d, *style, rect, &parameter);
-    const HintGuard guard(painter, QPainter::Antialiasing);
     BoxPainter::drawSolidBorder(painter, rect, parameter);
     return true;
 }

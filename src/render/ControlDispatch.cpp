@@ -35,9 +35,9 @@ bool measureImage(CustomObjectData *data)
 {
     const std::shared_ptr<const ResolvedStyle> style = data->resolved(Custom::Normal, {});
     if (data->hasParameter(Custom::ParamBackgroundImage))
-        data->sizeHintCache = StyleImages::pixmap(style->backgroundImage).size();
+        data->sizeHintCache = style->backgroundImage.size();
     else if (data->hasParameter(Custom::ParamBorderImage))
-        data->sizeHintCache = StyleImages::pixmap(style->borderImage).size();
+        data->sizeHintCache = style->borderImage.size();
     else
         return false;
     return data->sizeHintCache.width() > 0 && data->sizeHintCache.height() > 0;

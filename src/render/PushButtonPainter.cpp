@@ -1,6 +1,7 @@
 #include <Zanthic/CustomObject.h>
 
 #include "render/PushButtonLayout_p.h"
+#include "render/TextPalette_p.h"
 #include "style/CustomObject_p.h"
 
 #include <QtGui/QPainter>
@@ -41,7 +42,8 @@ QFont contentFont(const ResolvedStyle &style, const QWidget *widget)
     // A host whose font is measured in points has no pixel size to offer.
     if (style.fontSize <= 0 && widget->font().pixelSize() > 0)
         font.setPixelSize(widget->font().pixelSize());
-    return font;
+    // The host's own copy of an equal font has been looked up in the font database already.
+    return font == widget->font() ? widget->font() : font;
 }
 
 // Draws the icon; the text's place and flags follow from it.
@@ -102,7 +104,7 @@ void CustomObject::cDrawPushButton(
         cAttributeValue(QStringLiteral("IconAlignment"), Custom::Normal, {}), !button.icon.isNull(), underline);
 
     const QFont font = contentFont(*resolved, widget);
-    option->palette.setBrush(QPalette::All, QPalette::ButtonText, QBrush(resolved->fontColor));
+    option->palette = TextPalette::withColor(option->palette, QPalette::ButtonText, resolved->fontColor);
     option->fontMetrics = QFontMetrics(font);
     painter->setFont(font);
     if (cDrawContent(painter, option))

@@ -2,7 +2,6 @@
 
 #include "style/CustomObject_p.h"
 #include "style/CustomStyleSheetData_p.h"
-#include "style/StyleImages_p.h"
 
 ResolvedStyle::ResolvedStyle(const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs)
     : background(data.getValue(QStringLiteral("BackgroundColor"), status, subs)),

@@ -3,6 +3,7 @@
 // Not part of the API. It may change from version to version without notice.
 
 #include "style/StyleColors_p.h"
+#include "style/StyleImages_p.h"
 
 #include <QtCore/QSize>
 #include <QtCore/QStringList>
@@ -21,9 +22,9 @@ struct ResolvedStyle
     ResolvedStyle(const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs);
 
     ParsedBrush background;
-    QString baseBackgroundImage;
-    QString backgroundImage;
-    QString borderImage;
+    StyleImage baseBackgroundImage;
+    StyleImage backgroundImage;
+    StyleImage borderImage;
 
     std::array<int, 4> widths; ///< by Custom::BorderEdge, the value for all edges merged in
     std::array<QSize, 4> radii; ///< by Custom::BorderCorner, likewise

@@ -52,8 +52,12 @@ QGradientStops readStops(const QString &text)
         if (pieces.size() != 2)
             continue;
         const QStringList stop = pieces.at(1).trimmed().split(QLatin1Char(' '));
-        if (stop.size() == 2)
-            stops.append(qMakePair(stop.at(0).toDouble(), Custom::string2Color(stop.at(1))));
+        if (stop.size() != 2)
+            continue;
+        const double position = stop.at(0).toDouble();
+        // QGradient drops others as well, with a warning.
+        if (position >= 0.0 && position <= 1.0)
+            stops.append(qMakePair(position, Custom::string2Color(stop.at(1))));
     }
     return stops;
 }
@@ -199,13 +203,17 @@ QBrush Custom::getDataBaseColor(const QString &name, const QRect &rect)
 ParsedBrush::ParsedBrush(const QString &text)
 {
     const QString end = followChain(text);
-    m_bGradient = isGradient(end);
-    m_oBrush = m_bGradient ? QBrush(Custom::string2Gradient(end.trimmed())) : plainBrush(end);
+    if (!isGradient(end)) {
+        m_oBrush = plainBrush(end);
+        return;
+    }
+    // A text that is no gradient after all gives the default one, which isn't scaled.
+    m_oBrush = QBrush(Custom::string2Gradient(end.trimmed(), QRect(), &m_bScales));
 }
 
 QBrush ParsedBrush::scaledTo(const QRect &rect) const
 {
-    if (!m_bGradient || rect.isEmpty())
+    if (!m_bScales || rect.isEmpty())
         return m_oBrush;
     QLinearGradient gradient = *static_cast<const QLinearGradient *>(m_oBrush.gradient());
     const QPointF start = gradient.start();

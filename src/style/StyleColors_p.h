@@ -24,5 +24,5 @@ public:
 
 private:
     QBrush m_oBrush;
-    bool m_bGradient = false;
+    bool m_bScales = false; // a gradient
 };

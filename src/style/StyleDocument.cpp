@@ -12,6 +12,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 #include <QtXml/QDomDocument>
+#include <QtXml/QXmlSimpleReader>
 
 #include <new>
 
@@ -25,66 +26,48 @@ constexpr int kMaxElementDepth = 512;
 QSharedPointer<CustomStyleSheetData> m_xmlSharePointData;
 quint64 g_nRevision = 1;
 
-// How deep the elements of a document nest, read off its bytes without building anything.
-class DepthScanner
+// Qt has no other reader that sees a document as QDomDocument does, entities and encodings included.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+
+// Ends the reading of a document at the first element that is nested too deep.
+class DepthHandler : public QXmlDefaultHandler
 {
 public:
-    explicit DepthScanner(const QByteArray &bytes) : m_bytes(bytes)
+    bool startElement(const QString &, const QString &, const QString &, const QXmlAttributes &) override
     {
-        // The other bytes of a wide encoding carry no markup.
-        m_bytes.replace(QByteArray(1, '\0'), QByteArray());
+        m_bTooDeep = ++m_nDepth > kMaxElementDepth;
+        return !m_bTooDeep;
     }
-
-    int deepest()
+    bool endElement(const QString &, const QString &, const QString &) override
     {
-        int depth = 0;
-        int result = 0;
-        int at = m_bytes.indexOf('<');
-        while (at >= 0 && at + 1 < m_bytes.size()) {
-            const char next = m_bytes.at(at + 1);
-            if (next == '!' || next == '?') {
-                at = skipDeclaration(at);
-            } else {
-                const int end = tagEnd(at);
-                const bool closes = next == '/';
-                const bool empty = end > at && m_bytes.at(end - 1) == '/';
-                depth += closes ? -1 : (empty ? 0 : 1);
-                result = qMax(result, depth);
-                at = end;
-            }
-            at = at < 0 ? -1 : m_bytes.indexOf('<', at + 1);
-        }
-        return result;
+        --m_nDepth;
+        return true;
     }
+    QString errorString() const override { return QString(); }
+    bool isTooDeep() const { return m_bTooDeep; }
 
 private:
-    int skipDeclaration(int at) const
-    {
-        if (m_bytes.mid(at, 4) == "<!--")
-            return m_bytes.indexOf("-->", at + 4);
-        if (m_bytes.mid(at, 9) == "<![CDATA[")
-            return m_bytes.indexOf("]]>", at + 9);
-        return at;
-    }
-
-    // The index of the ">" that ends the tag, past ">" inside quotes; the last byte for an open tag.
-    int tagEnd(int at) const
-    {
-        char quote = 0;
-        for (int i = at + 1; i < m_bytes.size(); ++i) {
-            const char c = m_bytes.at(i);
-            if (quote)
-                quote = c == quote ? 0 : quote;
-            else if (c == '"' || c == '\'')
-                quote = c;
-            else if (c == '>')
-                return i;
-        }
-        return m_bytes.size() - 1;
-    }
-
-    QByteArray m_bytes;
+    int m_nDepth = 0;
+    bool m_bTooDeep = false;
 };
+
+bool isTooDeep(const QByteArray &bytes)
+{
+    QXmlInputSource source;
+    source.setData(bytes);
+    DepthHandler handler;
+    QXmlSimpleReader reader;
+    reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
+    reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
+    reader.setFeature(QStringLiteral("http://trolltech.com/xml/features/report-whitespace-only-CharData"), false);
+    reader.setContentHandler(&handler);
+    reader.setErrorHandler(&handler);
+    reader.parse(&source);
+    return handler.isTooDeep();
+}
+
+QT_WARNING_POP
 
 bool readFile(const QString &path, QByteArray *bytes)
 {
@@ -101,7 +84,7 @@ bool readFile(const QString &path, QByteArray *bytes)
 bool readXml(const QString &path, QDomDocument *document)
 {
     QByteArray bytes;
-    return readFile(path, &bytes) && DepthScanner(bytes).deepest() <= kMaxElementDepth && document->setContent(bytes);
+    return readFile(path, &bytes) && !isTooDeep(bytes) && document->setContent(bytes);
 }
 
 // The attributes of one class: those of its selectors, each under the selector's name.

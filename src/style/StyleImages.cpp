@@ -125,11 +125,12 @@ QPixmap StyleImages::pixmap(const QString &path)
     if (path.isEmpty() || path.contains(QChar(QChar::Null)))
         return QPixmap();
     const bool resource = isResource(path);
-    const QFileInfo file = resource ? QFileInfo() : QFileInfo(path);
-    if (const LoadedImage *known = g_Images.object(path)) {
-        if (resource || isFresh(*known, file))
-            return known->pixmap;
-    }
+    const LoadedImage *known = g_Images.object(path);
+    if (known && resource)
+        return known->pixmap;
+    const QFileInfo file(path);
+    if (known && isFresh(*known, file))
+        return known->pixmap;
     const QPixmap pixmap = loadPixmap(path);
     // A file that isn't there yet is looked for again; one that is there and broken isn't.
     if (!pixmap.isNull() || QFileInfo::exists(path))
@@ -147,23 +148,6 @@ QPixmap StyleImages::pixmapForRatio(const QString &path, qreal ratio)
     return pixmap(path);
 }
 
-void StyleImages::draw(QPainter *painter, const QRectF &target, const QString &path)
-{
-    const QPaintDevice *device = painter->device();
-    const qreal ratio = device ? device->devicePixelRatioF() : 1.0;
-    const QPixmap picture = pixmapForRatio(path, ratio);
-    if (picture.isNull())
-        return;
-    // Between two ratios the picture for the higher one is scaled down.
-    const bool smooth = picture.devicePixelRatio() > 1.0 && !qFuzzyCompare(picture.devicePixelRatio(), ratio);
-    const bool wasSmooth = painter->testRenderHint(QPainter::SmoothPixmapTransform);
-    if (smooth && !wasSmooth)
-        painter->setRenderHint(QPainter::SmoothPixmapTransform, true);
-    painter->drawPixmap(target, picture, QRectF(QPointF(0, 0), QSizeF(picture.size())));
-    if (smooth && !wasSmooth)
-        painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
-}
-
 QIcon StyleImages::icon(const QString &path)
 {
     return path.isEmpty() ? QIcon() : QIcon(new StyleIconEngine(path));
@@ -178,4 +162,46 @@ void StyleImages::clear()
 quint64 StyleImages::generation()
 {
     return g_nGeneration;
+}
+
+bool StyleImage::isKept() const
+{
+    // The caches know of a new skin, but not of a file on disk that is written anew.
+    return m_nGeneration == g_nGeneration && isResource(m_strPath);
+}
+
+QSize StyleImage::size() const
+{
+    if (!isKept())
+        pixmapForRatio(1.0);
+    return m_oSize;
+}
+
+QPixmap StyleImage::pixmapForRatio(qreal ratio) const
+{
+    if (isKept() && ratio == m_nRatio)
+        return m_oPixmap;
+    m_oSize = StyleImages::pixmap(m_strPath).size();
+    m_oPixmap = StyleImages::pixmapForRatio(m_strPath, ratio);
+    m_nRatio = ratio;
+    // One that isn't there may come.
+    m_nGeneration = m_oPixmap.isNull() ? 0 : g_nGeneration;
+    return m_oPixmap;
+}
+
+void StyleImage::draw(QPainter *painter, const QRectF &target) const
+{
+    const QPaintDevice *device = painter->device();
+    const qreal ratio = device ? device->devicePixelRatioF() : 1.0;
+    const QPixmap picture = pixmapForRatio(ratio);
+    if (picture.isNull())
+        return;
+    // Between two ratios the picture for the higher one is scaled down.
+    const bool smooth = picture.devicePixelRatio() > 1.0 && !qFuzzyCompare(picture.devicePixelRatio(), ratio)
+        && !painter->testRenderHint(QPainter::SmoothPixmapTransform);
+    if (smooth)
+        painter->setRenderHint(QPainter::SmoothPixmapTransform, true);
+    painter->drawPixmap(target, picture, QRectF(QPointF(0, 0), QSizeF(picture.size())));
+    if (smooth)
+        painter->setRenderHint(QPainter::SmoothPixmapTransform, false);
 }

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtGui/QImage>
+#include <QtWidgets/QWidget>
+
+#include <functional>
+#include <memory>
+
+/// What the benchmarks measure, and what a user would otherwise take.
+namespace Fixtures {
+
+/// Takes up the light skin of the default theme.
+void useTheme();
+/// A style sheet that gives plain Qt buttons and check boxes the look of the default theme. \p dark chooses the skin.
+QString equivalentSheet(bool dark);
+/// A shown and painted window of \p count children made by \p make.
+std::unique_ptr<QWidget> shownWindow(int count, const std::function<QWidget *(QWidget *)> &make);
+/// Lets pending events and paints pass.
+void settle();
+/// Paints a widget as its window would, without its background.
+void paintInto(QImage *image, QWidget *widget);
+/// Resident memory of this process in KiB.
+double residentKiB();
+
+} // namespace Fixtures

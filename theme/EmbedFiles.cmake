@@ -1,0 +1,16 @@
+# Writes C++ arrays with the bytes of files.
+# cmake -DOUTPUT=<source> -DHEADER=<header> -DARRAYS=<name=file;...> -P EmbedFiles.cmake
+set(declarations "#pragma once\n\n// Resources of the theme in the binary form of rcc.\n\n")
+set(definitions "")
+foreach(entry IN LISTS ARRAYS)
+    string(REGEX MATCH "^([^=]+)=(.*)$" entry "${entry}")
+    set(name ${CMAKE_MATCH_1})
+    file(READ "${CMAKE_MATCH_2}" bytes HEX)
+    string(REGEX REPLACE "(................................)" "\\1\n" bytes "${bytes}")
+    string(REGEX REPLACE "([0-9a-f][0-9a-f])" "0x\\1," bytes "${bytes}")
+    string(APPEND declarations "extern const unsigned char ${name}[];\n")
+    string(APPEND definitions "\nconst unsigned char ${name}[] = {\n${bytes}\n};\n")
+endforeach()
+get_filename_component(include "${HEADER}" NAME)
+file(WRITE "${HEADER}" "${declarations}")
+file(WRITE "${OUTPUT}" "#include \"${include}\"\n${definitions}")

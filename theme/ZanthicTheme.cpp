@@ -1,0 +1,94 @@
+#include "ZanthicTheme.h"
+
+#include "ZanthicThemeData.h"
+
+#include <Zanthic/Custom.h>
+
+#include <QtCore/QResource>
+
+#include <array>
+
+namespace {
+
+struct Skin
+{
+    const char *name;
+    const uchar *resources;
+};
+
+constexpr std::array<Skin, 2> kSkins{ { { "light", zanthicThemeLight }, { "dark", zanthicThemeDark } } };
+
+const Skin *findSkin(const QString &name)
+{
+    for (const Skin &skin : kSkins) {
+        if (name == QLatin1String(skin.name))
+            return &skin;
+    }
+    return nullptr;
+}
+
+// The resources that are registered with Qt. They lie in this library, so they are taken back when it goes.
+class Registration
+{
+public:
+    // Registering here makes Qt's list of resources older than this object, so that it outlives it.
+    Registration() : m_common(QResource::registerResource(zanthicThemeCommon)) { }
+    ~Registration()
+    {
+        if (m_skin)
+            QResource::unregisterResource(m_skin->resources);
+        if (m_common)
+            QResource::unregisterResource(zanthicThemeCommon);
+    }
+    Q_DISABLE_COPY(Registration)
+
+    const Skin *skin() const { return m_skin; }
+
+    bool apply(const Skin &skin)
+    {
+        if (&skin == m_skin)
+            return true;
+        // The new skin comes first, so that a failure leaves the old one in place.
+        if (!m_common || !QResource::registerResource(skin.resources))
+            return false;
+        if (m_skin)
+            QResource::unregisterResource(m_skin->resources);
+        m_skin = &skin;
+        return true;
+    }
+
+private:
+    bool m_common;
+    const Skin *m_skin = nullptr;
+};
+
+Registration &registration()
+{
+    static Registration instance;
+    return instance;
+}
+
+} // namespace
+
+QStringList ZanthicTheme::skins()
+{
+    QStringList names;
+    for (const Skin &skin : kSkins)
+        names += QLatin1String(skin.name);
+    return names;
+}
+
+QString ZanthicTheme::currentSkin()
+{
+    const Skin *skin = registration().skin();
+    return skin ? QString::fromLatin1(skin->name) : QString();
+}
+
+bool ZanthicTheme::applySkin(const QString &name)
+{
+    const Skin *skin = findSkin(name);
+    if (!skin || !registration().apply(*skin))
+        return false;
+    Custom::changeSkin();
+    return true;
+}
