@@ -58,9 +58,9 @@ void comparePaths(const StyleHost &host, Custom::ItemStatus status, const QStrin
         const int radius = ok ? own : host.cBorderRadius(Custom::AllCorner, status, subs);
         QCOMPARE(style->radii[i], QSize(radius, radius));
     }
-    QCOMPARE(style->backgroundImage, host.cBackgroundImage(status, subs));
-    QCOMPARE(style->borderImage, host.cBorderImage(status, subs));
-    QCOMPARE(style->baseBackgroundImage, value(host, "BaseBackgroundImage", status, subs));
+    QCOMPARE(style->backgroundImage.path(), host.cBackgroundImage(status, subs));
+    QCOMPARE(style->borderImage.path(), host.cBorderImage(status, subs));
+    QCOMPARE(style->baseBackgroundImage.path(), value(host, "BaseBackgroundImage", status, subs));
     QCOMPARE(style->fontColor, host.cFontColor(status, subs));
     QCOMPARE(style->fontFamily, value(host, "FontFamily", status, subs));
     QCOMPARE(style->fontSize, value(host, "FontSize", status, subs).toInt());
