@@ -140,7 +140,7 @@ void TestHosts::onlySkinEventsCount()
     QCoreApplication::processEvents();
     host.paints = 0;
     const bool isSkin = type == ChangeSkinEvent::EventType;
-    QEvent event { QEvent::Type(type) };
+    QEvent event{ QEvent::Type(type) };
     event.accept();
     host.cCustomEvent(&event);
     QCOMPARE(event.isAccepted(), !isSkin);
@@ -166,8 +166,11 @@ void TestHosts::skinChangeKeepsOverrides()
     QCOMPARE(host.size(), QSize(30, 20));
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<Style>" + classXml("Sample", "Default", "<FontSize>12</FontSize><ObjectParameter>2</ObjectParameter>"
-        "<WidgetWidth>31</WidgetWidth><WidgetHeight>21</WidgetHeight>") + "</Style>");
+    file.write("<Style>"
+        + classXml("Sample", "Default",
+            "<FontSize>12</FontSize><ObjectParameter>2</ObjectParameter>"
+            "<WidgetWidth>31</WidgetWidth><WidgetHeight>21</WidgetHeight>")
+        + "</Style>");
     file.close();
     Custom::changeSkin();
     // Font and size follow at the next read, not at the event.
@@ -193,7 +196,8 @@ void TestHosts::selectorWaitsForTheNextPaint()
 
 void TestHosts::readyHostsPaintTheirBox()
 {
-    const QByteArray attributes = "<ObjectParameter>286</ObjectParameter><BorderRadius:AllCorner>4</BorderRadius:AllCorner><BackgroundColor>#00ff00</BackgroundColor>"
+    const QByteArray attributes = "<ObjectParameter>286</ObjectParameter><BorderRadius:AllCorner>4</"
+                                  "BorderRadius:AllCorner><BackgroundColor>#00ff00</BackgroundColor>"
                                   "<BorderWidth:AllEdge>3</BorderWidth:AllEdge>"
                                   "<BorderColor:AllEdge>#0000ff</BorderColor:AllEdge>";
     addDocument(classXml("CustomWidget", "Default", attributes) + classXml("CustomFrame", "Default", attributes));
@@ -214,7 +218,7 @@ void TestHosts::readyHostsPaintTheirBox()
     QCOMPARE(at(widget, widget, 12), text("#ff00ff00"));
     QCOMPARE(at(frame, frame, 12), text("#ffff0000"));
 
-    QEvent skin { QEvent::Type(ChangeSkinEvent::EventType) };
+    QEvent skin{ QEvent::Type(ChangeSkinEvent::EventType) };
     QCoreApplication::sendEvent(&widget, &skin);
     QCoreApplication::sendEvent(&frame, &skin);
     QVERIFY(CustomObjectData::get(&widget)->dirty && CustomObjectData::get(&frame)->dirty);
@@ -390,7 +394,7 @@ void TestHosts::nullObjectDoesNothing()
     NullObject null;
     StyleHost other;
     other.cSetFontSize(4);
-    QEvent skin { QEvent::Type(ChangeSkinEvent::EventType) };
+    QEvent skin{ QEvent::Type(ChangeSkinEvent::EventType) };
     skin.accept();
     null.cCustomEvent(&skin);
     QVERIFY(skin.isAccepted());
@@ -450,7 +454,7 @@ void TestHosts::mixInWithoutHost()
     QCOMPARE(bare.cStyleSelector(), text("GrayWhite"));
     bare.cSetClassName(text("Sample"));
     QCOMPARE(bare.cAttributeValue(text("WidgetWidth")), text("5"));
-    QEvent skin { QEvent::Type(ChangeSkinEvent::EventType) };
+    QEvent skin{ QEvent::Type(ChangeSkinEvent::EventType) };
     bare.cCustomEvent(&skin);
     QVERIFY(CustomObjectData::get(&bare)->dirty && !skin.isAccepted());
     bare.cSetPrivateFontFamily(text("F"));
