@@ -75,19 +75,14 @@ class TestHosts : public StyleTest
 
 private Q_SLOTS:
     void sheetSelectsOnProperties();
-    void onlySkinEventsCount_data();
     void onlySkinEventsCount();
     void skinChangeKeepsOverrides();
     void selectorWaitsForTheNextPaint();
     void readyHostsPaintTheirBox();
     void classNameIsTheConstructorsOwn();
-    void languageChangeOfObjects_data();
-    void languageChangeOfObjects();
-    void languageChangeOfHelpers_data();
-    void languageChangeOfHelpers();
+    void languageChangeReachesWhatFollows();
     void privateFamilyReplacesBothInTheSheet();
     void privateFamilyWithoutSheet();
-    void emptyFamilyReplacesNothing();
     void shadowIsInert();
     void userData();
     void nullHelperDoesNothing();
@@ -121,35 +116,28 @@ void TestHosts::sheetSelectsOnProperties()
     QCOMPARE(color(), text("#ff00ff00"));
 }
 
-void TestHosts::onlySkinEventsCount_data()
-{
-    QTest::addColumn<int>("type");
-    for (const int type : { 5098, 5097, 5099, int(QEvent::User), int(QEvent::None), int(QEvent::StyleChange) })
-        QTest::addRow("%d", type) << type;
-}
-
 void TestHosts::onlySkinEventsCount()
 {
-    QFETCH(int, type);
     addDocument(classXml("Sample", "Default", "<ObjectParameter>6</ObjectParameter><FontSize>9</FontSize>"));
     StyleHost host;
     host.show();
     QVERIFY(QTest::qWaitForWindowExposed(&host));
     host.cSetFontColor(text("#123456"));
-    QTRY_VERIFY(host.paints > 0);
-    QCoreApplication::processEvents();
-    host.paints = 0;
-    const bool isSkin = type == ChangeSkinEvent::EventType;
-    QEvent event{ QEvent::Type(type) };
-    event.accept();
-    host.cCustomEvent(&event);
-    QCOMPARE(event.isAccepted(), !isSkin);
-    QCOMPARE(host.data()->dirty, isSkin);
-    QCOMPARE(host.data()->styleValues.isEmpty(), isSkin);
-    QCOMPARE(host.data()->parameters, quint32(6));
-    QCOMPARE(host.data()->localValues.size(), 1);
-    QCoreApplication::processEvents();
-    QCOMPARE(host.paints > 0, isSkin);
+    for (const int type : { 5097, 5099, int(QEvent::User), int(QEvent::StyleChange), 5098 }) {
+        QCoreApplication::processEvents();
+        host.paints = 0;
+        QEvent event{ QEvent::Type(type) };
+        event.accept();
+        host.cCustomEvent(&event);
+        const bool isSkin = type == 5098;
+        QCOMPARE(event.isAccepted(), !isSkin);
+        QCOMPARE(host.data()->dirty, isSkin);
+        QCOMPARE(host.data()->styleValues.isEmpty(), isSkin);
+        QCOMPARE(host.data()->parameters, quint32(6));
+        QCOMPARE(host.data()->localValues.size(), 1);
+        QCoreApplication::processEvents();
+        QCOMPARE(host.paints > 0, isSkin);
+    }
     host.cCustomEvent(nullptr);
     QCOMPARE(host.cFontSize(), 9);
     QCOMPARE(host.cFontColor(), QColor(0x12, 0x34, 0x56));
@@ -239,57 +227,36 @@ void TestHosts::classNameIsTheConstructorsOwn()
     QCOMPARE(named.keys, 1);
 }
 
-void TestHosts::languageChangeOfObjects_data()
+void TestHosts::languageChangeReachesWhatFollows()
 {
-    QTest::addColumn<bool>("changed"); // the flag
-    QTest::addColumn<bool>("own");
-    QTest::addColumn<QString>("family");
-    QTest::newRow("follows") << true << false << text("Family Zh");
-    QTest::newRow("no change") << false << false << text("Before");
-    QTest::newRow("own family") << true << true << text("Before");
-}
-
-void TestHosts::languageChangeOfObjects()
-{
-    QFETCH(bool, changed);
-    QFETCH(bool, own);
     addDocument(classXml("Global", "Default", kFamilies));
-    StyleHost host;
-    host.data()->initData();
-    QFont font(text("Before"), 23, QFont::Bold);
-    host.setFont(font);
-    host.cSetIsUserFontFamily(own);
-    CustomPrivate::setIsFontFamilyChange(changed);
-    host.cLanguageChange();
-    QTEST(host.font().family(), "family");
-    QVERIFY(host.font().bold() && host.font().pointSize() == 23);
-}
-
-void TestHosts::languageChangeOfHelpers_data()
-{
-    QTest::addColumn<bool>("changed");
-    QTest::addColumn<bool>("own");
-    QTest::addColumn<bool>("polished");
-    QTest::newRow("polishes") << true << false << true;
-    QTest::newRow("no change") << false << false << false;
-    QTest::newRow("own family") << true << true << false;
-}
-
-void TestHosts::languageChangeOfHelpers()
-{
-    QFETCH(bool, changed);
-    QFETCH(bool, own);
-    addDocument(classXml("Global", "Default", kFamilies));
-    SheetHost host;
-    host.setStyleSheet(text("SheetHost { background: #0000ff; } SheetHost[LanguageString=\"Zh_cn\"] { background: "
-                            "#00ff00; }"));
-    Probe::grab(&host);
-    if (own)
-        host.cSetPrivateFontFamily(text("Mine"));
-    Custom::setLanguage(Custom::Zh_cn);
-    CustomPrivate::setIsFontFamilyChange(changed);
-    host.cLanguageChange();
-    QTEST(Probe::colorAt(Probe::grab(&host), 5, 5) == text("#ff00ff00"), "polished");
+    // The flag and the control's own family decide; both mix-ins ask the same.
+    const struct
+    {
+        bool changed;
+        bool own;
+        bool follows;
+    } rows[] = { { true, false, true }, { false, false, false }, { true, true, false } };
+    for (const auto &row : rows) {
+        StyleHost host;
+        host.data()->initData();
+        host.setFont(QFont(text("Before"), 23, QFont::Bold));
+        host.cSetIsUserFontFamily(row.own);
+        SheetHost sheetHost;
+        sheetHost.setStyleSheet(text("SheetHost { background: #0000ff; } SheetHost[LanguageString=\"Zh_cn\"] "
+                                     "{ background: #00ff00; }"));
+        Custom::setLanguage(Custom::En_us);
+        Probe::grab(&sheetHost);
+        if (row.own)
+            sheetHost.cSetPrivateFontFamily(text("Mine"));
+        Custom::setLanguage(Custom::Zh_cn);
+        CustomPrivate::setIsFontFamilyChange(row.changed);
+        host.cLanguageChange();
+        sheetHost.cLanguageChange();
+        QCOMPARE(host.font().family(), text(row.follows ? "Family Zh" : "Before"));
+        QVERIFY(host.font().bold() && host.font().pointSize() == 23);
+        QCOMPARE(Probe::colorAt(Probe::grab(&sheetHost), 5, 5), text(row.follows ? "#ff00ff00" : "#ff0000ff"));
+    }
 }
 
 void TestHosts::privateFamilyReplacesBothInTheSheet()
@@ -299,6 +266,10 @@ void TestHosts::privateFamilyReplacesBothInTheSheet()
     host.setStyleSheet(text("A{font-family:'Family Zh'}B{font-family:'Family En'}C{font-family:'family en'}"));
     host.cSetPrivateFontFamily(text("Mine"));
     const QString replaced = text("A{font-family:'Mine'}B{font-family:'Mine'}C{font-family:'family en'}");
+    QCOMPARE(host.styleSheet(), replaced);
+    // An empty family, filed by asking for it, is found nowhere.
+    Custom::globalFontFamily(Custom::Language(-1));
+    host.cSetPrivateFontFamily(text("Again"));
     QCOMPARE(host.styleSheet(), replaced);
     // The text is replaced once: a sheet that is set later stays as it is.
     host.setStyleSheet(text("A{font-family:'Family Zh'}"));
@@ -330,17 +301,6 @@ void TestHosts::privateFamilyWithoutSheet()
     QCOMPARE(host.font().family(), text("Mine"));
     host.cResetAllValue();
     QCOMPARE(host.font().family(), text("Family Zh"));
-}
-
-void TestHosts::emptyFamilyReplacesNothing()
-{
-    SheetHost host;
-    host.setStyleSheet(text("A{}"));
-    host.cSetPrivateFontFamily(text("Mine"));
-    QCOMPARE(host.styleSheet(), text("A{}"));
-    Custom::globalFontFamily(Custom::Zh_cn); // files an empty family
-    host.cSetPrivateFontFamily(text("Mine"));
-    QCOMPARE(host.styleSheet(), text("A{}"));
 }
 
 void TestHosts::shadowIsInert()

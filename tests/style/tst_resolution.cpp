@@ -111,14 +111,12 @@ class TestResolution : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void keys_data();
     void keys();
     void orderOfFallback_data();
     void orderOfFallback();
     void subSelectorsDoNotFallBack();
     void firstOverrideWipesAndResetBringsBack();
     void wipeIsByPrefix();
-    void selectorLiesOverDefault_data();
     void selectorLiesOverDefault();
     void whatMarksDirty();
     void parentClassIsTheOnlySource();
@@ -139,25 +137,17 @@ private Q_SLOTS:
     void cachedPathEqualsPlainPath();
 };
 
-void TestResolution::keys_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QStringList>("subs");
-    QTest::addColumn<QString>("key");
-    QTest::newRow("FontColor") << int(Hover) << s_lstNone << text("fontcolor:hover");
-    QTest::newRow("BorderWidth:Left") << int(Normal) << s_lstNone << text("borderwidth:left");
-    QTest::newRow("BackgroundColor") << int(Pressed) << QStringList({ "item", "checked" })
-                                     << text("backgroundcolor:item:checked:pressed");
-    QTest::newRow("Icon") << int(Disabled) << QStringList({ "", "Down-Arrow" }) << text("icon::down-arrow:disabled");
-    QTest::newRow("A") << 4 << QStringList(QString()) << text("a:");
-    QTest::newRow("") << -1 << s_lstNone << QString();
-}
-
 void TestResolution::keys()
 {
-    QFETCH(int, status);
-    QFETCH(QStringList, subs);
-    QTEST(CustomObjectData::getFullAttrName(text(QTest::currentDataTag()), Custom::ItemStatus(status), subs), "key");
+    const auto key = [](const char *attribute, int status, const QStringList &subs = s_lstNone) {
+        return CustomObjectData::getFullAttrName(text(attribute), Custom::ItemStatus(status), subs);
+    };
+    QCOMPARE(key("FontColor", Hover), text("fontcolor:hover"));
+    QCOMPARE(key("BorderWidth:Left", Normal), text("borderwidth:left"));
+    QCOMPARE(key("BackgroundColor", Pressed, { "item", "checked" }), text("backgroundcolor:item:checked:pressed"));
+    QCOMPARE(key("Icon", Disabled, { "", "Down-Arrow" }), text("icon::down-arrow:disabled"));
+    QCOMPARE(key("A", 4, { "" }), text("a:"));
+    QCOMPARE(key("", -1), QString());
 }
 
 void TestResolution::orderOfFallback_data()
@@ -271,21 +261,6 @@ void TestResolution::wipeIsByPrefix()
     QCOMPARE(value(other, "Icon"), QString());
 }
 
-void TestResolution::selectorLiesOverDefault_data()
-{
-    QTest::addColumn<QString>("values"); // one, two, three
-    QTest::newRow("Default") << text("d1 d2 ");
-    QTest::newRow("default") << text("d1 d2 ");
-    QTest::newRow("Gray") << text("g1 d2 g3");
-    QTest::newRow("gRAY") << text("g1 d2 g3");
-    QTest::newRow("Alias") << text("g1 d2 g3");
-    QTest::newRow("AliasOfAlias") << text("d1 d2 ");
-    QTest::newRow("Unknown") << text("d1 d2 ");
-    QTest::newRow("") << text("d1 d2 ");
-    QTest::newRow("Blank") << text(" d2 ");
-    QTest::newRow("Gra") << text("d1 d2 ");
-}
-
 void TestResolution::selectorLiesOverDefault()
 {
     addDocument("<Class Name='Sample'><Selector Name='DEFAULT'><One>d1</One><Two>d2</Two></Selector>"
@@ -293,9 +268,15 @@ void TestResolution::selectorLiesOverDefault()
                 "<Selector Name='Alias' EqualSelector='GRAY'/><Selector Name='AliasOfAlias' EqualSelector='Alias'/>"
                 "<Selector Name='Blank'><One/></Selector></Class>");
     StyleHost host;
-    host.cSetStyleSelector(text(QTest::currentDataTag()));
-    const QStringList values{ value(host, "One"), value(host, "Two"), value(host, "Three") };
-    QTEST(values.join(QLatin1Char(' ')), "values");
+    const auto values = [&host](const char *selector) {
+        host.cSetStyleSelector(text(selector));
+        return QStringList({ value(host, "One"), value(host, "Two"), value(host, "Three") }).join(QLatin1Char(' '));
+    };
+    for (const char *selector : { "Gray", "gRAY", "Alias" })
+        QCOMPARE(values(selector), text("g1 d2 g3"));
+    for (const char *selector : { "Default", "default", "AliasOfAlias", "Unknown", "Gra", "" })
+        QCOMPARE(values(selector), text("d1 d2 "));
+    QCOMPARE(values("Blank"), text(" d2 "));
     host.cSetStyleSelector(Custom::CommonStyleSelector(7));
     QCOMPARE(host.cStyleSelector(), text("Default"));
     QCOMPARE(value(host, "One"), text("d1"));
@@ -736,6 +717,7 @@ void TestResolution::cachedPathEqualsPlainPath()
         { "colour", [&] { addColors("<Color Id='A' Value='#00ff00'/><Color Id='Shade' Value='DB_COLOR_B'/>"); } },
         { "resized", [&] { host.resize(33, 44); } },
         { "override", [&] { host.cSetBorderWidth(9, Custom::Left, Hover); } },
+        { "override again", [&] { host.cSetBorderWidth(11, Custom::Left, Hover); } },
         { "second override", [&] { host.cSetBackgroundColor(text("DB_COLOR_Shade"), Pressed, s_lstItem); } },
         { "later colour", [&] { addColors(QByteArray("<Color Id='B' Value='") + kGradient + "'/>"); } },
         { "cleared", [&] { host.cClearValue(text("Font")); } },
