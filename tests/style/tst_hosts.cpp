@@ -267,10 +267,11 @@ void TestHosts::privateFamilyReplacesBothInTheSheet()
     host.cSetPrivateFontFamily(text("Mine"));
     const QString replaced = text("A{font-family:'Mine'}B{font-family:'Mine'}C{font-family:'family en'}");
     QCOMPARE(host.styleSheet(), replaced);
-    // An empty family, filed by asking for it, is found nowhere.
-    Custom::globalFontFamily(Custom::Language(-1));
+    // An empty family would be found between all characters.
+    Custom::setGlobalFontFamily(Custom::Zh_cn, QString());
     host.cSetPrivateFontFamily(text("Again"));
     QCOMPARE(host.styleSheet(), replaced);
+    Custom::setGlobalFontFamily(Custom::Zh_cn, text("Family Zh"));
     // The text is replaced once: a sheet that is set later stays as it is.
     host.setStyleSheet(text("A{font-family:'Family Zh'}"));
     QCOMPARE(host.styleSheet(), text("A{font-family:'Family Zh'}"));
