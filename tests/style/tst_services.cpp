@@ -247,6 +247,7 @@ void TestServices::childLayoutsAreTakenFromAnyDepth()
     Custom::removeChildLayoutItem(outer, grid);
     QCOMPARE(outer->count(), 1);
     delete child;
+    delete grid;
 }
 
 ZANTHIC_TEST_MAIN(TestServices)

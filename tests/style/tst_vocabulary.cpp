@@ -391,6 +391,7 @@ void TestVocabulary::longChain()
 {
     constexpr int kLinks = 100000;
     QByteArray colors = "<Color Id='C0' Value='#123456'/>";
+    colors.reserve(kLinks * 64);
     for (int i = 1; i <= kLinks; ++i)
         colors += QByteArray("<Color Id='C") + QByteArray::number(i) + "' Value='DB_COLOR_C" + QByteArray::number(i - 1)
             + "'/>";
