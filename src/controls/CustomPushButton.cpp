@@ -3,6 +3,7 @@
 #include "controls/CustomPushButton_p.h"
 #include "style/StyleImages_p.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QCursor>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>

@@ -7,6 +7,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QPointer>
 #include <QtCore/QSharedPointer>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QApplication>
@@ -15,6 +16,7 @@
 #include <QtXml/QXmlSimpleReader>
 
 #include <new>
+#include <vector>
 
 namespace {
 
@@ -23,7 +25,6 @@ const QLatin1String s_strSeparator("##");
 // A document nested deeper than this would exhaust the stack of the XML library, which walks it by recursion.
 constexpr int kMaxElementDepth = 512;
 
-QSharedPointer<CustomStyleSheetData> m_xmlSharePointData;
 quint64 g_nRevision = 1;
 
 // Qt has no other reader that sees a document as QDomDocument does, entities and encodings included.
@@ -68,6 +69,12 @@ bool isTooDeep(const QByteArray &bytes)
 }
 
 QT_WARNING_POP
+
+QSharedPointer<CustomStyleSheetData> &xmlSharePointData()
+{
+    static QSharedPointer<CustomStyleSheetData> m_xmlSharePointData;
+    return m_xmlSharePointData;
+}
 
 bool readFile(const QString &path, QByteArray *bytes)
 {
@@ -121,11 +128,23 @@ void mergeClass(const QString &className, const CustomStyleSheetData::AttributeT
         existing->insert(it.key(), it.value());
 }
 
+void notifyAllWidgets()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    // A widget that rebuilds its contents on a new skin deletes others.
+    std::vector<QPointer<QWidget>> guarded(widgets.cbegin(), widgets.cend());
+    ChangeSkinEvent event;
+    for (const QPointer<QWidget> &widget : guarded) {
+        if (widget)
+            QCoreApplication::sendEvent(widget, &event);
+    }
+}
+
 } // namespace
 
 CustomStyleSheetData *CustomStyleSheetData::instance()
 {
-    return m_xmlSharePointData.data();
+    return xmlSharePointData().data();
 }
 
 quint64 CustomStyleSheetData::revision()
@@ -142,15 +161,15 @@ void CustomStyleSheetData::invalidateDerived()
 
 void CustomStyleSheetData::reset()
 {
-    m_xmlSharePointData.reset();
+    xmlSharePointData().reset();
     clearStyleSheets();
     invalidateDerived();
 }
 
 void Custom::initStyleSheetDataPointer()
 {
-    if (!m_xmlSharePointData)
-        m_xmlSharePointData.reset(new (std::nothrow) CustomStyleSheetData);
+    if (!xmlSharePointData())
+        xmlSharePointData().reset(new (std::nothrow) CustomStyleSheetData);
 }
 
 void Custom::initXmlInfo(const QString &path)
@@ -253,10 +272,7 @@ void Custom::changeSkin()
     for (const QString &path : paths)
         initXmlInfo(path);
 
-    ChangeSkinEvent event;
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (QWidget *widget : widgets)
-        QCoreApplication::sendEvent(widget, &event);
+    notifyAllWidgets();
 }
 
 ChangeSkinEvent::ChangeSkinEvent() : QEvent(static_cast<QEvent::Type>(EventType)) { }
