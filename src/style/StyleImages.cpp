@@ -25,6 +25,9 @@ struct LoadedImage
 QCache<QString, LoadedImage> &images()
 {
     static QCache<QString, LoadedImage> s_Images(kCacheKiB);
+    // Pixmaps must not outlive the application object.
+    static const bool s_bRegistered = (qAddPostRoutine(StyleImages::clear), true);
+    Q_UNUSED(s_bRegistered)
     return s_Images;
 }
 

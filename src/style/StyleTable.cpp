@@ -2,6 +2,7 @@
 
 #include "style/CustomStyleSheetData_p.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
 
 namespace {
@@ -25,6 +26,9 @@ struct Caches
 Caches &caches()
 {
     static Caches s_Caches;
+    // What was worked out from a table holds icons, which must not outlive the application object.
+    static const bool s_bRegistered = (qAddPostRoutine(StyleTable::clearCache), true);
+    Q_UNUSED(s_bRegistered)
     return s_Caches;
 }
 
