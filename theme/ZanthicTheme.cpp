@@ -90,5 +90,7 @@ bool ZanthicTheme::applySkin(const QString &name)
     if (!skin || !registration().apply(*skin))
         return false;
     Custom::changeSkin();
+    // The documents have put the font of the first language in force.
+    Custom::setLanguage(Custom::language());
     return true;
 }

@@ -25,9 +25,9 @@ ZANTHIC_THEME_EXPORT QStringList skins();
 ZANTHIC_THEME_EXPORT QString currentSkin();
 
 /// Makes the paths below ":/Zanthic/" deliver the skin \p name and calls Custom::changeSkin(), so that all live
-/// controls show it at their next paint. May be called at any time, also before there is an application object or a
-/// widget. The skin in use is loaded anew. An unknown name gives false, and nothing changes; names are compared with
-/// regard to case.
+/// controls show it at their next paint; the font family stays that of the current language. May be called at any time,
+/// also before there is an application object or a widget. The skin in use is loaded anew. An unknown name gives false,
+/// and nothing changes; names are compared with regard to case.
 ZANTHIC_THEME_EXPORT bool applySkin(const QString &name);
 
 } // namespace ZanthicTheme

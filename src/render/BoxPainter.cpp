@@ -23,6 +23,12 @@ int toCoordinate(qint64 value)
     return int(qBound(-kFarCoordinate, value, kFarCoordinate));
 }
 
+// A window that is too large for a surface gives its widgets painters that can't paint.
+bool isUsable(const QPainter *painter)
+{
+    return painter && painter->isActive();
+}
+
 // The widths and radii that the control's flags let through.
 void readMetrics(const CustomObjectData &data, const ResolvedStyle &style, CustomObjectData::BorderParameter *parameter)
 {
@@ -93,7 +99,7 @@ void drawBorderImage(
 bool CustomObject::cDrawBackground(
     QPainter *painter, const QRect &rect, Custom::ItemStatus status, const QStringList &selectors)
 {
-    if (!d)
+    if (!d || !isUsable(painter))
         return false;
     const std::shared_ptr<const ResolvedStyle> style = d->resolved(status, selectors);
     bool painted = false;
@@ -115,7 +121,7 @@ bool CustomObject::cDrawBackground(
 bool CustomObject::cDrawBorder(
     QPainter *painter, const QRect &rect, Custom::ItemStatus status, const QStringList &selectors)
 {
-    if (!d)
+    if (!d || !isUsable(painter))
         return false;
     const std::shared_ptr<const ResolvedStyle> style = d->resolved(status, selectors);
     CustomObjectData::BorderParameter parameter;
@@ -133,7 +139,7 @@ bool CustomObject::cDrawBorder(
 
 void CustomObject::cDrawColorRect(QPainter *painter, const QRect &rect)
 {
-    if (!d || !cHasParameter(Custom::ParamColorRect))
+    if (!d || !isUsable(painter) || !cHasParameter(Custom::ParamColorRect))
         return;
     CustomObjectData::BorderParameter parameter;
     d->borderParameter(this, &parameter, rect, Custom::Normal, {});

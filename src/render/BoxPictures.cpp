@@ -18,6 +18,7 @@ using BoxPictures::Parameter;
 constexpr int kPicturesKiB = 8 * 1024;
 constexpr int kMaxPixels = 64 * 1024; // a larger box is filled at once nearly as fast
 constexpr int kMaxScale = 4;
+constexpr int kTinyArc = 2; // device pixels
 constexpr int kMaxSeen = 256;
 constexpr int kKeptArcs = 512;
 
@@ -85,15 +86,18 @@ int pixelExactScale(const QPainter *painter)
 }
 
 // Whether every corner of the fill is a proper arc. Where a corner is smaller than half of the border beside it, the
-// outline crosses itself and leaves the box.
-bool hasProperCorners(const QRect &rect, const Parameter &parameter)
+// outline crosses itself and leaves the box; the coverage of an arc of a pixel or two depends on its place.
+bool hasProperCorners(const QRect &rect, const Parameter &parameter, int scale)
 {
     QSize tl, tr, bl, br;
     Custom::cNormalizeRadii(rect, parameter.radii.data(), &tl, &tr, &bl, &br);
     const auto &borders = parameter.borders;
-    const auto fits = [](const QSize &radius, int vertical, int horizontal) {
-        return vertical >= 0 && horizontal >= 0 && 2 * qint64(radius.width()) >= vertical
-            && 2 * qint64(radius.height()) >= horizontal;
+    const auto isProper = [scale](int radius, int border) {
+        const qint64 side = (2 * qint64(radius) - border) * scale;
+        return border >= 0 && (side == 0 || side > kTinyArc);
+    };
+    const auto fits = [&isProper](const QSize &radius, int vertical, int horizontal) {
+        return isProper(radius.width(), vertical) && isProper(radius.height(), horizontal);
     };
     return fits(tl, borders[Custom::Left], borders[Custom::Top])
         && fits(tr, borders[Custom::Right], borders[Custom::Top])
@@ -170,7 +174,8 @@ bool BoxPictures::drawFill(QPainter *painter, const QRect &rect, const Parameter
 {
     const int scale = pixelExactScale(painter);
     const QSize size = rect.size() * scale;
-    if (size.isEmpty() || qint64(size.width()) * size.height() > kMaxPixels || !hasProperCorners(rect, parameter))
+    if (size.isEmpty() || qint64(size.width()) * size.height() > kMaxPixels
+        || !hasProperCorners(rect, parameter, scale))
         return false;
     const FillKey key{ { QRect(QPoint(0, 0), rect.size()), parameter.borders, parameter.radii },
         quint64(color.rgba64()), scale };

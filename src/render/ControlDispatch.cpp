@@ -7,6 +7,7 @@
 #include "style/CustomObject_p.h"
 #include "style/StyleImages_p.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
@@ -126,7 +127,7 @@ QSize indicatorButtonSize(
 void CustomObject::cDrawWidget(
     Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option)
 {
-    if (!d)
+    if (!d || !painter || !painter->isActive())
         return;
     switch (type) {
     case Custom::WidgetCheckBox:
