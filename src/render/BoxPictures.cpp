@@ -1,5 +1,8 @@
 #include "render/BoxPictures_p.h"
 
+#include "render/BorderGeometry_p.h"
+#include "render/BoxPainter_p.h"
+
 #include <QtCore/QCache>
 #include <QtCore/QSet>
 #include <QtGui/QImage>
@@ -7,41 +10,53 @@
 #include <QtGui/QPainter>
 #include <QtGui/QRgba64>
 
-#include <memory>
-
 namespace {
 
-using BoxPictures::Key;
-using BoxPictures::Step;
+using BoxPictures::Arcs;
+using BoxPictures::Parameter;
 
-constexpr int kCacheKiB = 8 * 1024;
-constexpr int kMaxPixels = 64 * 1024; // a larger box is painted at once nearly as fast
+constexpr int kPicturesKiB = 8 * 1024;
+constexpr int kMaxPixels = 64 * 1024; // a larger box is filled at once nearly as fast
 constexpr int kMaxScale = 4;
 constexpr int kMaxSeen = 256;
+constexpr int kKeptArcs = 512;
 
-// One layer, or the part of it that isn't empty.
-struct Layer
+// All that the outline of a box depends on.
+struct OutlineKey
 {
-    QPoint offset; // device pixels
-    QImage image;
+    QRect rect;
+    std::array<int, 4> borders;
+    std::array<QSize, 4> radii;
 };
 
-struct Picture
+bool operator==(const OutlineKey &a, const OutlineKey &b)
 {
-    std::vector<Layer> layers;
-};
-
-QCache<Key, Picture> &cache()
-{
-    static QCache<Key, Picture> s_Pictures(kCacheKiB);
-    return s_Pictures;
+    return a.rect == b.rect && a.borders == b.borders && a.radii == b.radii;
 }
 
-// Boxes that were painted once. One that never comes again, such as a frame of an animation, gets no picture.
-QSet<Key> &seenOnce()
+uint qHash(const OutlineKey &key, uint seed = 0)
 {
-    static QSet<Key> s_Seen;
-    return s_Seen;
+    uint hash = qHashBits(&key.rect, sizeof key.rect, seed);
+    hash = qHashBits(key.borders.data(), sizeof key.borders, hash);
+    return qHashBits(key.radii.data(), sizeof key.radii, hash);
+}
+
+// All that the pixels of a fill depend on; the outline lies at (0, 0).
+struct FillKey
+{
+    OutlineKey outline;
+    quint64 color; // 16 bits a channel
+    int scale; // device pixels a px
+};
+
+bool operator==(const FillKey &a, const FillKey &b)
+{
+    return a.outline == b.outline && a.color == b.color && a.scale == b.scale;
+}
+
+uint qHash(const FillKey &key, uint seed = 0)
+{
+    return qHash(key.outline, seed) ^ ::qHash(key.color, seed) ^ uint(key.scale);
 }
 
 bool isWhole(qreal value)
@@ -69,139 +84,100 @@ int pixelExactScale(const QPainter *painter)
     return fits && transform.m11() >= 1.0 && transform.m11() <= kMaxScale ? int(transform.m11()) : 0;
 }
 
-QImage emptyImage(const QSize &size)
+QImage paintFill(const FillKey &key, const Parameter &parameter, const QColor &color)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    QImage image(key.outline.rect.size() * key.scale, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    return image;
-}
-
-QImage paintStep(const Step &step, const Key &key)
-{
-    QImage image = emptyImage(key.size * key.scale);
     QPainter painter(&image);
     painter.scale(key.scale, key.scale);
     painter.setRenderHint(QPainter::Antialiasing);
-    step(&painter);
+    const QPainterPath path = BoxPainter::clipPath(key.outline.rect, parameter);
+    if (path.isEmpty())
+        painter.fillRect(key.outline.rect, color);
+    else
+        painter.fillPath(path, color);
     return image;
 }
 
-// Files the pixels of one step behind those that touched them before. depth holds the number of layers a pixel has.
-void addStep(const QImage &step, std::vector<QImage> *layers, std::vector<int> *depth)
+// The picture of a fill; null for one that comes for the first time. A fill that never comes again, such as a frame
+// of an animation, gets no picture.
+QImage findFill(const FillKey &key, const Parameter &parameter, const QColor &color)
 {
-    for (int y = 0; y < step.height(); ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(step.constScanLine(y));
-        for (int x = 0; x < step.width(); ++x) {
-            if (line[x] == 0)
-                continue;
-            int &used = (*depth)[std::size_t(y) * std::size_t(step.width()) + std::size_t(x)];
-            if (qAlpha(line[x]) == 255) {
-                for (int i = 1; i < used; ++i)
-                    (*layers)[std::size_t(i)].setPixel(x, y, 0);
-                used = 0;
-            }
-            if (std::size_t(used) == layers->size())
-                layers->push_back(emptyImage(step.size()));
-            QImage &layer = (*layers)[std::size_t(used++)];
-            reinterpret_cast<QRgb *>(layer.scanLine(y))[x] = line[x];
-        }
+    static QCache<FillKey, QImage> s_Pictures(kPicturesKiB);
+    static QSet<FillKey> s_SeenOnce;
+    if (const QImage *known = s_Pictures.object(key))
+        return *known;
+    if (!s_SeenOnce.remove(key)) {
+        if (s_SeenOnce.size() >= kMaxSeen)
+            s_SeenOnce.clear();
+        s_SeenOnce.insert(key);
+        return QImage();
     }
+    const QImage image = paintFill(key, parameter, color);
+    s_Pictures.insert(key, new QImage(image), 1 + int(image.sizeInBytes() / 1024));
+    return image;
 }
 
-// The rows of a layer between two, cut to what isn't empty.
-void addPart(const QImage &image, int firstRow, int endRow, Picture *picture)
+QPainterPath arcPath(const BorderLayout::Arc &arc)
 {
-    QRect used;
-    for (int y = firstRow; y < endRow; ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            if (line[x] != 0)
-                used |= QRect(x, y, 1, 1);
-        }
-    }
-    if (!used.isEmpty())
-        picture->layers.push_back({ used.topLeft(), image.copy(used) });
+    // As QPainter::drawArc() makes it.
+    const QRectF rect = arc.rect.normalized();
+    QPainterPath path;
+    path.arcMoveTo(rect, arc.start / 16.0);
+    path.arcTo(rect, arc.start / 16.0, arc.span / 16.0);
+    return path;
 }
 
-std::unique_ptr<Picture> makePicture(const Key &key, const std::vector<Step> &steps)
+std::shared_ptr<Arcs> makeArcs(const OutlineKey &key)
 {
-    std::vector<QImage> layers;
-    const QSize size = key.size * key.scale;
-    std::vector<int> depth(std::size_t(size.width()) * std::size_t(size.height()), 0);
-    for (const Step &step : steps)
-        addStep(paintStep(step, key), &layers, &depth);
-    auto picture = std::make_unique<Picture>();
-    for (std::size_t i = 0; i < layers.size(); ++i) {
-        // Behind the first layer only corners are left: those at the top and those at the bottom.
-        const int middle = i == 0 ? size.height() : size.height() / 2;
-        addPart(layers[i], 0, middle, picture.get());
-        addPart(layers[i], middle, size.height(), picture.get());
+    auto result = std::make_shared<Arcs>();
+    QSize tl, tr, bl, br;
+    Custom::cNormalizeRadii(key.rect, key.radii.data(), &tl, &tr, &bl, &br);
+    const QSize normalized[] = { tl, tr, bl, br };
+    for (const Custom::BorderEdge edge : { Custom::Left, Custom::Right, Custom::Top, Custom::Bottom }) {
+        const BorderLayout::EdgePlace place = BorderLayout::edgePlace(edge, key.rect, key.borders.data(), normalized);
+        const QSizeF r1(place.r1);
+        const QSizeF r2(place.r2);
+        const auto arcs = BorderLayout::cornerArcs(place.band, r1, r2, edge);
+        if (!r1.isEmpty())
+            (*result)[edge][0] = arcPath(arcs[0]);
+        if (!r2.isEmpty())
+            (*result)[edge][1] = arcPath(arcs[1]);
     }
-    return picture;
-}
-
-const Picture *findPicture(const Key &key, const BoxPictures::Steps &steps)
-{
-    if (const Picture *known = cache().object(key))
-        return known;
-    QSet<Key> &seen = seenOnce();
-    if (!seen.contains(key)) {
-        if (seen.size() >= kMaxSeen)
-            seen.clear();
-        seen.insert(key);
-        return nullptr;
-    }
-    seen.remove(key);
-    std::unique_ptr<Picture> picture = makePicture(key, steps(QRect(QPoint(0, 0), key.size)));
-    int bytes = 0;
-    for (const Layer &layer : picture->layers)
-        bytes += int(layer.image.sizeInBytes());
-    cache().insert(key, picture.release(), 1 + bytes / 1024);
-    return cache().object(key);
+    return result;
 }
 
 } // namespace
 
-bool BoxPictures::operator==(const Key &a, const Key &b)
+bool BoxPictures::drawFill(QPainter *painter, const QRect &rect, const Parameter &parameter, const QColor &color)
 {
-    return a.size == b.size && a.borders == b.borders && a.radii == b.radii && a.colors == b.colors
-        && a.scale == b.scale && a.fill == b.fill;
-}
-
-uint BoxPictures::qHash(const Key &key, uint seed)
-{
-    uint hash = ::qHash((quint64(uint(key.size.width())) << 32) | uint(key.size.height()), seed);
-    hash = qHashBits(key.borders.data(), sizeof key.borders, hash);
-    hash = qHashBits(key.radii.data(), sizeof key.radii, hash);
-    hash = qHashBits(key.colors.data(), sizeof key.colors, hash);
-    return hash ^ uint(key.scale * 2 + int(key.fill));
-}
-
-BoxPictures::Key::Key(const QSize &boxSize, const std::array<int, 4> &boxBorders, const std::array<QSize, 4> &boxRadii,
-    const std::array<QBrush, 4> &brushes, bool isFill)
-    : size(boxSize), borders(boxBorders), radii(boxRadii), fill(isFill)
-{
-    for (std::size_t i = 0; i < 4; ++i) {
-        solid = solid && brushes[i].style() == Qt::SolidPattern;
-        colors[i] = quint64(brushes[i].color().rgba64());
-    }
-}
-
-bool BoxPictures::draw(QPainter *painter, const QPoint &topLeft, Key key, const Steps &steps)
-{
-    key.scale = key.solid ? pixelExactScale(painter) : 0;
-    const QSize size = key.size * key.scale;
+    const int scale = pixelExactScale(painter);
+    const QSize size = rect.size() * scale;
     if (size.isEmpty() || qint64(size.width()) * size.height() > kMaxPixels)
         return false;
-    const Picture *picture = findPicture(key, steps);
-    if (!picture)
+    const FillKey key{ { QRect(QPoint(0, 0), rect.size()), parameter.borders, parameter.radii },
+        quint64(color.rgba64()), scale };
+    const QImage picture = findFill(key, parameter, color);
+    if (picture.isNull())
         return false;
+    if (scale == 1) {
+        painter->drawImage(rect.topLeft(), picture);
+        return true;
+    }
     const QTransform world = painter->worldTransform();
-    if (key.scale > 1)
-        painter->scale(1.0 / key.scale, 1.0 / key.scale);
-    for (const Layer &layer : picture->layers)
-        painter->drawImage(topLeft * key.scale + layer.offset, layer.image);
-    if (key.scale > 1)
-        painter->setWorldTransform(world);
+    painter->scale(1.0 / scale, 1.0 / scale);
+    painter->drawImage(rect.topLeft() * scale, picture);
+    painter->setWorldTransform(world);
     return true;
+}
+
+std::shared_ptr<const Arcs> BoxPictures::arcs(const QRect &rect, const Parameter &parameter)
+{
+    static QCache<OutlineKey, std::shared_ptr<Arcs>> s_Arcs(kKeptArcs);
+    const OutlineKey key{ rect, parameter.borders, parameter.radii };
+    if (const std::shared_ptr<Arcs> *known = s_Arcs.object(key))
+        return *known;
+    const std::shared_ptr<Arcs> result = makeArcs(key);
+    s_Arcs.insert(key, new std::shared_ptr<Arcs>(result));
+    return result;
 }

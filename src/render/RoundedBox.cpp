@@ -1,4 +1,5 @@
-// Filling and bordering a rounded box, from a picture of an earlier paint where that gives the same pixels.
+// Filling and bordering a box: the same pixels as Custom::cBorderClip() and Custom::cDrawBorder() give, without
+// working out again what an earlier paint of an equal box did.
 
 #include "render/BorderGeometry_p.h"
 #include "render/BoxPainter_p.h"
@@ -23,31 +24,16 @@ bool hasRadius(const Parameter &parameter)
     return false;
 }
 
-// The strokes and fills that make up a border, from back to front, each by itself.
-std::vector<BoxPictures::Step> borderSteps(const QRect &rect, const Parameter &parameter)
+// One edge without its corners, as Custom::cDrawEdge() draws a solid one.
+void drawEdge(QPainter *painter, const BorderLayout::EdgeJob &job, const QBrush &brush)
 {
-    std::vector<BoxPictures::Step> steps;
-    const auto jobs = BorderLayout::edgeJobs(
-        rect, kSolidStyles, parameter.borders.data(), parameter.colors.data(), parameter.radii.data());
-    for (const BorderLayout::EdgeJob &job : jobs) {
-        const BorderLayout::Band band = job.place.band;
-        const QBrush brush = parameter.colors[job.edge];
-        steps.emplace_back([job, band, brush](QPainter *painter) {
-            Custom::cDrawEdge(
-                painter, band.x1, band.y1, band.x2, band.y2, job.dw1, job.dw2, job.edge, Custom::BorderSolid, brush);
-        });
-        const auto arc = [job, band, brush](const QSizeF &r1, const QSizeF &r2) {
-            return [=](QPainter *painter) {
-                Custom::cDrawRoundedCorners(
-                    painter, band.x1, band.y1, band.x2, band.y2, r1, r2, job.edge, Custom::BorderSolid, brush);
-            };
-        };
-        if (job.place.startRadius != 0 || job.place.endRadius != 0) {
-            steps.emplace_back(arc(QSizeF(job.place.r1), QSizeF()));
-            steps.emplace_back(arc(QSizeF(), QSizeF(job.place.r2)));
-        }
+    const BorderLayout::Band &band = job.place.band;
+    if (band.thickness(job.edge) == 1.0 || (job.dw1 == 0 && job.dw2 == 0)) {
+        painter->fillRect(QRectF(band.x1, band.y1, band.x2 - band.x1, band.y2 - band.y1), brush);
+        return;
     }
-    return steps;
+    Custom::cDrawEdge(
+        painter, band.x1, band.y1, band.x2, band.y2, job.dw1, job.dw2, job.edge, Custom::BorderSolid, brush);
 }
 
 } // namespace
@@ -68,14 +54,8 @@ void BoxPainter::fillBox(QPainter *painter, const QRect &rect, const Parameter &
         painter->fillRect(rect, brush);
         return;
     }
-    const auto steps = [&](const QRect &place) -> std::vector<BoxPictures::Step> {
-        const QPainterPath path = clipPath(place, parameter);
-        if (path.isEmpty())
-            return { [place, brush](QPainter *p) { p->fillRect(place, brush); } };
-        return { [path, brush](QPainter *p) { p->fillPath(path, brush); } };
-    };
-    const BoxPictures::Key key(rect.size(), parameter.borders, parameter.radii, { brush, brush, brush, brush }, true);
-    if (g_bPicturesEnabled && BoxPictures::draw(painter, rect.topLeft(), key, steps))
+    if (g_bPicturesEnabled && brush.style() == Qt::SolidPattern
+        && BoxPictures::drawFill(painter, rect, parameter, brush.color()))
         return;
     const QPainterPath path = clipPath(rect, parameter);
     if (path.isEmpty()) {
@@ -88,11 +68,24 @@ void BoxPainter::fillBox(QPainter *painter, const QRect &rect, const Parameter &
 
 void BoxPainter::drawSolidBorder(QPainter *painter, const QRect &rect, const Parameter &parameter)
 {
-    const auto steps = [&](const QRect &place) { return borderSteps(place, parameter); };
-    const BoxPictures::Key key(rect.size(), parameter.borders, parameter.radii, parameter.colors, false);
-    if (g_bPicturesEnabled && hasRadius(parameter) && BoxPictures::draw(painter, rect.topLeft(), key, steps))
-        return;
     const HintGuard guard(painter, QPainter::Antialiasing);
-    Custom::cDrawBorder(
-        painter, rect, kSolidStyles, parameter.borders.data(), parameter.colors.data(), parameter.radii.data());
+    if (!g_bPicturesEnabled) {
+        Custom::cDrawBorder(
+            painter, rect, kSolidStyles, parameter.borders.data(), parameter.colors.data(), parameter.radii.data());
+        return;
+    }
+    const auto jobs = BorderLayout::edgeJobs(
+        rect, kSolidStyles, parameter.borders.data(), parameter.colors.data(), parameter.radii.data());
+    const auto arcs = hasRadius(parameter) ? BoxPictures::arcs(rect, parameter) : nullptr;
+    for (const BorderLayout::EdgeJob &job : jobs) {
+        const QBrush &brush = parameter.colors[job.edge];
+        drawEdge(painter, job, brush);
+        if (!arcs)
+            continue;
+        const QPen pen(brush, job.place.band.thickness(job.edge), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
+        for (const QPainterPath &arc : (*arcs)[job.edge]) {
+            if (!arc.isEmpty())
+                painter->strokePath(arc, pen);
+        }
+    }
 }

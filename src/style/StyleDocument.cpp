@@ -7,6 +7,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QPointer>
 #include <QtCore/QSharedPointer>
 #include <QtGui/QPixmapCache>
 #include <QtWidgets/QApplication>
@@ -15,6 +16,7 @@
 #include <QtXml/QXmlSimpleReader>
 
 #include <new>
+#include <vector>
 
 namespace {
 
@@ -119,6 +121,18 @@ void mergeClass(const QString &className, const CustomStyleSheetData::AttributeT
     }
     for (auto it = table.cbegin(); it != table.cend(); ++it)
         existing->insert(it.key(), it.value());
+}
+
+void notifyAllWidgets()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    // A widget that rebuilds its contents on a new skin deletes others.
+    std::vector<QPointer<QWidget>> guarded(widgets.cbegin(), widgets.cend());
+    ChangeSkinEvent event;
+    for (const QPointer<QWidget> &widget : guarded) {
+        if (widget)
+            QCoreApplication::sendEvent(widget, &event);
+    }
 }
 
 } // namespace
@@ -253,10 +267,7 @@ void Custom::changeSkin()
     for (const QString &path : paths)
         initXmlInfo(path);
 
-    ChangeSkinEvent event;
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (QWidget *widget : widgets)
-        QCoreApplication::sendEvent(widget, &event);
+    notifyAllWidgets();
 }
 
 ChangeSkinEvent::ChangeSkinEvent() : QEvent(static_cast<QEvent::Type>(EventType)) { }

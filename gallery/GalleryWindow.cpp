@@ -1,0 +1,282 @@
+#include "GalleryWindow.h"
+
+#include "Appearance.h"
+#include "pages/GalleryPage.h"
+#include "pages/PageRegistry.h"
+#include "parts/NavigationButton.h"
+#include "parts/TextLabel.h"
+
+#include <Zanthic/ChangeSkinEvent.h>
+#include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomFrame.h>
+#include <Zanthic/CustomRadioButton.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QButtonGroup>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QShortcut>
+
+#include <functional>
+
+namespace {
+
+constexpr QSize StartSize(1216, 800);
+constexpr int SidebarWidth = 224;
+constexpr int Margin = 24;
+constexpr int Gap = 8;
+constexpr int Setting_Height = 32;
+
+CustomFrame *createPanel(const QString &className, QWidget *parent)
+{
+    auto *panel = new CustomFrame(parent);
+    panel->cSetClassName(className);
+    return panel;
+}
+
+/// Lays out one of the settings in the header: a caption, and the row of its controls below.
+void addSetting(QWidget *area, QWidget *caption, QLayout *controls)
+{
+    auto *row = new QWidget(area);
+    row->setFixedHeight(Setting_Height);
+    controls->setContentsMargins(0, 0, 0, 0);
+    row->setLayout(controls);
+    auto *layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(caption);
+    layout->addWidget(row);
+}
+
+/// The name that the user reads. Skins are named by the theme, languages by themselves.
+QString displayName(const QString &name)
+{
+    if (name == QLatin1String("light"))
+        return GalleryWindow::tr("Light");
+    if (name == QLatin1String("dark"))
+        return GalleryWindow::tr("Dark");
+    if (name == QLatin1String("en_US"))
+        return QStringLiteral("English");
+    if (name == QLatin1String("zh_CN"))
+        return QStringLiteral("\u7b80\u4f53\u4e2d\u6587");
+    return name;
+}
+
+} // namespace
+
+GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent)
+    : CustomWidget(parent),
+      m_pAppearance(appearance),
+      m_pScrollArea(new QScrollArea(this)),
+      m_pSkinGroup(new QButtonGroup(this)),
+      m_pLanguageGroup(new QButtonGroup(this))
+{
+    cSetClassName(QStringLiteral("GalleryWindow"));
+    m_pScrollArea->setWidgetResizable(true);
+    m_pScrollArea->setFrameShape(QFrame::NoFrame);
+    m_pScrollArea->setFocusPolicy(Qt::NoFocus);
+
+    auto *right = new QVBoxLayout;
+    right->setSpacing(0);
+    right->addWidget(createHeader());
+    right->addWidget(m_pScrollArea, 1);
+    auto *all = new QHBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(createSidebar());
+    all->addLayout(right, 1);
+
+    createShortcuts();
+    // By clicks only: showing a choice that was made elsewhere must not make it again.
+    const auto clicked = QOverload<QAbstractButton *>::of(&QButtonGroup::buttonClicked);
+    connect(m_pSkinGroup, clicked, this,
+        [this](QAbstractButton *chosen) { m_pAppearance->applySkin(chosen->objectName()); });
+    connect(m_pLanguageGroup, clicked, this,
+        [this](QAbstractButton *chosen) { m_pAppearance->applyLanguage(chosen->objectName()); });
+    connect(m_pAppearance, &Appearance::skinChanged, this, &GalleryWindow::showChoices);
+    connect(m_pAppearance, &Appearance::languageChanged, this, &GalleryWindow::showChoices);
+    styleScrollArea();
+    showChoices();
+    retranslate();
+    resize(StartSize);
+}
+
+GalleryWindow::~GalleryWindow() = default;
+
+QWidget *GalleryWindow::createSidebar()
+{
+    CustomFrame *sidebar = createPanel(QStringLiteral("GallerySidebar"), this);
+    sidebar->setFixedWidth(SidebarWidth);
+    auto *layout = new QVBoxLayout(sidebar);
+    layout->setContentsMargins(Gap * 2, Margin, Gap * 2, Margin);
+    layout->setSpacing(4);
+
+    auto *product = new TextLabel(TextLabel::Title, sidebar);
+    product->setText(QStringLiteral("Zanthic"));
+    m_pPagesCaption = new TextLabel(TextLabel::Caption, sidebar);
+    layout->addWidget(product);
+    layout->addWidget(m_pPagesCaption);
+    layout->addSpacing(Gap * 2);
+    for (const PageEntry &entry : pageEntries()) {
+        auto *button = new NavigationButton(sidebar);
+        const QString name = entry.name;
+        connect(button, &NavigationButton::clicked, this, [this, name] { openPage(name); });
+        layout->addWidget(button);
+        m_lstNavigation << button;
+    }
+    layout->addStretch(1);
+    m_pKeysCaption = new TextLabel(TextLabel::Caption, sidebar);
+    m_pKeysCaption->setWordWrap(true);
+    layout->addWidget(m_pKeysCaption);
+    return sidebar;
+}
+
+QWidget *GalleryWindow::createHeader()
+{
+    CustomFrame *header = createPanel(QStringLiteral("GalleryHeader"), this);
+    auto *titles = new QVBoxLayout;
+    titles->setSpacing(4);
+    titles->addWidget(m_pTitle = new TextLabel(TextLabel::Title, header));
+    titles->addWidget(m_pSubtitle = new TextLabel(TextLabel::Caption, header));
+
+    auto *layout = new QHBoxLayout(header);
+    layout->setContentsMargins(Margin, Gap * 2, Margin, Gap * 2);
+    layout->setSpacing(Margin);
+    layout->addLayout(titles, 1);
+    layout->addWidget(createChooser(Appearance::skins(), m_pSkinGroup, &m_pSkinCaption));
+    layout->addWidget(createChooser(Appearance::languages(), m_pLanguageGroup, &m_pLanguageCaption));
+    layout->addWidget(createEnableSwitch());
+    return header;
+}
+
+QWidget *GalleryWindow::createChooser(const QStringList &names, QButtonGroup *group, TextLabel **caption)
+{
+    auto *chooser = new QWidget(this);
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(Gap * 2);
+    for (const QString &name : names) {
+        auto *button = new CustomRadioButton(displayName(name), chooser);
+        button->setObjectName(name);
+        group->addButton(button);
+        buttons->addWidget(button);
+    }
+    addSetting(chooser, *caption = new TextLabel(TextLabel::Caption, chooser), buttons);
+    return chooser;
+}
+
+QWidget *GalleryWindow::createEnableSwitch()
+{
+    auto *area = new QWidget(this);
+    m_pEnabled = new CustomCheckBox(area, CustomCheckBox::GraySwitch);
+    m_pEnabled->setChecked(true);
+    connect(m_pEnabled, &CustomCheckBox::toggled, this, &GalleryWindow::setPageEnabled);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_pEnabled);
+    row->addStretch(1);
+    addSetting(area, m_pEnabledCaption = new TextLabel(TextLabel::Caption, area), row);
+    return area;
+}
+
+void GalleryWindow::createShortcuts()
+{
+    const QVector<QPair<Qt::Key, std::function<void()>>> keys = {
+        { Qt::Key_T, [this] { m_pAppearance->nextSkin(); } },
+        { Qt::Key_L, [this] { m_pAppearance->nextLanguage(); } },
+        { Qt::Key_E, [this] { m_pEnabled->toggle(); } },
+    };
+    for (const auto &[key, action] : keys) {
+        auto *shortcut = new QShortcut(QKeySequence(int(Qt::CTRL) | int(key)), this);
+        connect(shortcut, &QShortcut::activated, this, action);
+    }
+}
+
+void GalleryWindow::openPage(const QString &name)
+{
+    GalleryPage *page = createPage(name, m_pScrollArea);
+    if (!page)
+        return;
+    m_pageName = name;
+    m_pPage = page;
+    m_pScrollArea->setWidget(page); // deletes the page before
+    page->setAutoFillBackground(false);
+    m_pScrollArea->viewport()->setAutoFillBackground(false);
+    setPageEnabled(m_pEnabled->isChecked());
+    retranslate();
+}
+
+void GalleryWindow::setPageEnabled(bool enabled)
+{
+    if (m_pPage)
+        m_pPage->setEnabled(enabled);
+}
+
+QPixmap GalleryWindow::picture()
+{
+    // A page may wrap its texts differently once the scroll bar is gone, hence the second turn.
+    for (int turn = 0; turn < 2 && m_pPage; ++turn) {
+        QCoreApplication::sendPostedEvents();
+        grab(QRect(0, 0, 1, 1)); // lays out a window that isn't shown, too
+        const int needed
+            = qMax(m_pPage->heightForWidth(m_pScrollArea->viewport()->width()), m_pPage->minimumSizeHint().height());
+        resize(width(), height() + needed - m_pScrollArea->viewport()->height());
+    }
+    return grab();
+}
+
+void GalleryWindow::showChoices()
+{
+    const auto check = [](QButtonGroup *group, const QString &name) {
+        for (QAbstractButton *button : group->buttons()) {
+            if (button->objectName() == name)
+                button->setChecked(true);
+        }
+    };
+    check(m_pSkinGroup, m_pAppearance->skin());
+    check(m_pLanguageGroup, m_pAppearance->language());
+}
+
+void GalleryWindow::styleScrollArea()
+{
+    const QString sheet = Custom::styleSheet(Custom::SheetScrollBar);
+    m_pScrollArea->verticalScrollBar()->setStyleSheet(sheet);
+    m_pScrollArea->horizontalScrollBar()->setStyleSheet(sheet);
+}
+
+void GalleryWindow::retranslate()
+{
+    const QVector<PageEntry> &entries = pageEntries();
+    for (int i = 0; i < entries.size(); ++i) {
+        const bool current = entries.at(i).name == m_pageName;
+        const QString title = pageTitle(entries.at(i));
+        m_lstNavigation.at(i)->setText(title);
+        m_lstNavigation.at(i)->setCurrent(current);
+        if (current) {
+            m_pTitle->setText(title);
+            m_pSubtitle->setText(pageSummary(entries.at(i)));
+        }
+    }
+    m_pPagesCaption->setText(tr("Control gallery"));
+    m_pKeysCaption->setText(tr("Ctrl+T next skin\nCtrl+L next language\nCtrl+E enable or disable"));
+    m_pSkinCaption->setText(tr("Skin"));
+    m_pLanguageCaption->setText(tr("Language"));
+    m_pEnabledCaption->setText(tr("Page enabled"));
+    for (QAbstractButton *button : m_pSkinGroup->buttons())
+        button->setText(displayName(button->objectName()));
+    setWindowTitle(tr("Zanthic gallery"));
+}
+
+void GalleryWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    CustomWidget::changeEvent(event);
+}
+
+void GalleryWindow::customEvent(QEvent *event)
+{
+    CustomWidget::customEvent(event);
+    if (int(event->type()) == ChangeSkinEvent::EventType)
+        styleScrollArea();
+}
