@@ -228,7 +228,8 @@ QPixmap GalleryWindow::picture()
 void GalleryWindow::showChoices()
 {
     const auto check = [](QButtonGroup *group, const QString &name) {
-        for (QAbstractButton *button : group->buttons()) {
+        const QList<QAbstractButton *> buttons = group->buttons();
+        for (QAbstractButton *button : buttons) {
             if (button->objectName() == name)
                 button->setChecked(true);
         }
@@ -262,7 +263,8 @@ void GalleryWindow::retranslate()
     m_pSkinCaption->setText(tr("Skin"));
     m_pLanguageCaption->setText(tr("Language"));
     m_pEnabledCaption->setText(tr("Page enabled"));
-    for (QAbstractButton *button : m_pSkinGroup->buttons())
+    const QList<QAbstractButton *> skins = m_pSkinGroup->buttons();
+    for (QAbstractButton *button : skins)
         button->setText(displayName(button->objectName()));
     setWindowTitle(tr("Zanthic gallery"));
 }

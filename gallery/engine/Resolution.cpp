@@ -48,7 +48,8 @@ QStringList subSelectorsOf(const QString &text)
     if (text.trimmed().isEmpty())
         return {};
     QStringList names;
-    for (const QString &name : text.split(QLatin1Char(',')))
+    const QStringList parts = text.split(QLatin1Char(','));
+    for (const QString &name : parts)
         names << name.trimmed();
     return names;
 }
@@ -88,7 +89,8 @@ Resolution resolve(const AttributeQuery &query, const OverrideLog &log)
 
     Resolution resolution;
     for (Custom::ItemStatus status : qAsConst(statuses)) {
-        for (const ResolutionStep &step : stepsOf(query, status, base, selected, log)) {
+        const auto steps = stepsOf(query, status, base, selected, log);
+        for (const ResolutionStep &step : steps) {
             resolution.steps.append(step);
             if (step.value.isEmpty())
                 continue;

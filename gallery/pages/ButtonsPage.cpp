@@ -18,8 +18,8 @@ constexpr QSize PhotoButton_Size(160, 48);
 /// A button of the default look with an icon of the theme in the colours of its text.
 CustomPushButton *withIcon(CustomPushButton *button)
 {
-    button->cSetIcon(QStringLiteral(":/Zanthic/Icons/download-on-accent.png"));
-    button->cSetIcon(QStringLiteral(":/Zanthic/Icons/download-on-accent-disabled.png"), Custom::Disabled);
+    button->cSetIcon(QStringLiteral(":/Zanthic/Icons/check-on-accent.png"));
+    button->cSetIcon(QStringLiteral(":/Zanthic/Icons/check-on-accent-disabled.png"), Custom::Disabled);
     return button;
 }
 
@@ -75,7 +75,7 @@ void ButtonsPage::addIcons()
         CustomPushButton *button = withIcon(new CustomPushButton(this));
         button->cSetIconAlign(one.side);
         button->setFixedSize(one.side & (Qt::AlignTop | Qt::AlignBottom) ? TallButton_Size : IconButton_Size);
-        buttons << captioned(translated(button, QT_TR_NOOP("Download")), one.caption);
+        buttons << captioned(translated(button, QT_TR_NOOP("Apply")), one.caption);
     }
     CustomPushButton *iconOnly = withIcon(new CustomPushButton(this));
     iconOnly->setFixedSize(IconOnly_Size);
@@ -84,7 +84,7 @@ void ButtonsPage::addIcons()
     disabled->cSetIconAlign(Qt::AlignLeft);
     disabled->setFixedSize(IconButton_Size);
     disabled->setEnabled(false);
-    buttons << captioned(translated(disabled, QT_TR_NOOP("Download")), QT_TR_NOOP("disabled"));
+    buttons << captioned(translated(disabled, QT_TR_NOOP("Apply")), QT_TR_NOOP("disabled"));
     card->add(row(buttons));
 }
 

@@ -23,7 +23,7 @@ constexpr int Example_Gap = 8;
 constexpr QSize Swatch_Size(24, 24);
 constexpr QSize Preview_Size(216, 144);
 constexpr int Flag_Columns = 3;
-constexpr QLatin1String FlagPrefix("Param"); // of each flag's name
+const QLatin1String FlagPrefix("Param"); // of each flag's name
 
 struct Example
 {

@@ -143,8 +143,8 @@
         <translation>下</translation>
     </message>
     <message>
-        <source>Download</source>
-        <translation>下载</translation>
+        <source>Apply</source>
+        <translation>应用</translation>
     </message>
     <message>
         <source>without a text</source>

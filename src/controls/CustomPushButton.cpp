@@ -3,6 +3,7 @@
 #include "controls/CustomPushButton_p.h"
 #include "style/StyleImages_p.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QCursor>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
@@ -132,14 +133,17 @@ void CustomPushButton::paintEvent(QPaintEvent *event)
     cDrawWidget(Custom::WidgetPushButton, &painter, QRect(0, 0, width(), height()), &option);
 }
 
+// The base class emits signals out of its handlers below, and what they are connected to may delete the button.
+
 void CustomPushButton::mousePressEvent(QMouseEvent *event)
 {
     if (d->isGuardedBusy()) {
         event->ignore();
         return;
     }
+    const QPointer<CustomPushButton> self(this);
     QPushButton::mousePressEvent(event);
-    if (d->ignoreMouse)
+    if (self && d->ignoreMouse)
         event->ignore();
 }
 
@@ -150,7 +154,6 @@ void CustomPushButton::mouseReleaseEvent(QMouseEvent *event)
         return;
     }
     d->clickBusy = true;
-    // The click fires in here and may delete the button.
     const QPointer<CustomPushButton> self(this);
     QAbstractButton::mouseReleaseEvent(event);
     if (!self || !CustomPushButtonPrivate::controlList().contains(d->controlIndex))
@@ -163,15 +166,17 @@ void CustomPushButton::mouseReleaseEvent(QMouseEvent *event)
 
 void CustomPushButton::mouseMoveEvent(QMouseEvent *event)
 {
+    const QPointer<CustomPushButton> self(this);
     QPushButton::mouseMoveEvent(event);
-    if (d->ignoreMouse)
+    if (self && d->ignoreMouse)
         event->ignore();
 }
 
 void CustomPushButton::timerEvent(QTimerEvent *event)
 {
+    const QPointer<CustomPushButton> self(this);
     QPushButton::timerEvent(event);
-    if (event->timerId() != d->clickTimer.timerId())
+    if (!self || event->timerId() != d->clickTimer.timerId())
         return;
     d->clickTimer.stop();
     d->clickBusy = false;

@@ -1,5 +1,6 @@
 #include <Zanthic/CustomRadioButton.h>
 
+#include <QtCore/QEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 

@@ -84,6 +84,23 @@ int pixelExactScale(const QPainter *painter)
     return fits && transform.m11() >= 1.0 && transform.m11() <= kMaxScale ? int(transform.m11()) : 0;
 }
 
+// Whether every corner of the fill is a proper arc. Where a corner is smaller than half of the border beside it, the
+// outline crosses itself and leaves the box.
+bool hasProperCorners(const QRect &rect, const Parameter &parameter)
+{
+    QSize tl, tr, bl, br;
+    Custom::cNormalizeRadii(rect, parameter.radii.data(), &tl, &tr, &bl, &br);
+    const auto &borders = parameter.borders;
+    const auto fits = [](const QSize &radius, int vertical, int horizontal) {
+        return vertical >= 0 && horizontal >= 0 && 2 * qint64(radius.width()) >= vertical
+            && 2 * qint64(radius.height()) >= horizontal;
+    };
+    return fits(tl, borders[Custom::Left], borders[Custom::Top])
+        && fits(tr, borders[Custom::Right], borders[Custom::Top])
+        && fits(bl, borders[Custom::Left], borders[Custom::Bottom])
+        && fits(br, borders[Custom::Right], borders[Custom::Bottom]);
+}
+
 QImage paintFill(const FillKey &key, const Parameter &parameter, const QColor &color)
 {
     QImage image(key.outline.rect.size() * key.scale, QImage::Format_ARGB32_Premultiplied);
@@ -153,7 +170,7 @@ bool BoxPictures::drawFill(QPainter *painter, const QRect &rect, const Parameter
 {
     const int scale = pixelExactScale(painter);
     const QSize size = rect.size() * scale;
-    if (size.isEmpty() || qint64(size.width()) * size.height() > kMaxPixels)
+    if (size.isEmpty() || qint64(size.width()) * size.height() > kMaxPixels || !hasProperCorners(rect, parameter))
         return false;
     const FillKey key{ { QRect(QPoint(0, 0), rect.size()), parameter.borders, parameter.radii },
         quint64(color.rgba64()), scale };

@@ -94,20 +94,27 @@ bool isGradient(const QString &text)
     return text.trimmed().startsWith(s_strGradient, Qt::CaseInsensitive);
 }
 
+bool isPath(const QString &text)
+{
+    const QString trimmed = text.trimmed();
+    return !text.isEmpty() && !trimmed.startsWith(QLatin1Char('#'))
+        && !trimmed.startsWith(QLatin1String("rgba"), Qt::CaseInsensitive);
+}
+
 // A text at the end of its chain, other than a gradient.
 QBrush plainBrush(const QString &text)
 {
     if (text.isEmpty())
         return QBrush();
     const QString trimmed = text.trimmed();
+    if (isPath(text))
+        return QBrush(StyleImages::pixmap(trimmed));
     if (trimmed.startsWith(QLatin1Char('#'))) {
         QColor color;
         color.setNamedColor(text);
         return QBrush(color);
     }
-    if (trimmed.startsWith(QLatin1String("rgba"), Qt::CaseInsensitive))
-        return rgbaBrush(trimmed);
-    return QBrush(StyleImages::pixmap(trimmed));
+    return rgbaBrush(trimmed);
 }
 
 } // namespace
@@ -205,6 +212,10 @@ ParsedBrush::ParsedBrush(const QString &text)
     const QString end = followChain(text);
     if (!isGradient(end)) {
         m_oBrush = plainBrush(end);
+        // A file on disk may change at any time, and one that isn't there may come.
+        const bool isKept = end.startsWith(QLatin1Char(':')) && m_oBrush.style() != Qt::NoBrush;
+        if (isPath(end) && !isKept)
+            m_strPath = end;
         return;
     }
     // A text that is no gradient after all gives the default one, which isn't scaled.
@@ -213,6 +224,8 @@ ParsedBrush::ParsedBrush(const QString &text)
 
 QBrush ParsedBrush::scaledTo(const QRect &rect) const
 {
+    if (!m_strPath.isEmpty())
+        return plainBrush(m_strPath);
     if (!m_bScales || rect.isEmpty())
         return m_oBrush;
     QLinearGradient gradient = *static_cast<const QLinearGradient *>(m_oBrush.gradient());

@@ -20,9 +20,10 @@ public:
     explicit ParsedBrush(const QString &text);
 
     QBrush scaledTo(const QRect &rect) const;
-    const QBrush &unscaled() const { return m_oBrush; } ///< the brush for a null rectangle
+    QBrush unscaled() const { return scaledTo(QRect()); }
 
 private:
     QBrush m_oBrush;
+    QString m_strPath; // an image that is looked up each time; empty for everything that can be kept
     bool m_bScales = false; // a gradient
 };

@@ -24,52 +24,70 @@ const QLatin1String s_strSeparator("##");
 
 // A document nested deeper than this would exhaust the stack of the XML library, which walks it by recursion.
 constexpr int kMaxElementDepth = 512;
+// A short document can grow without bounds by the entities that it declares itself; honest ones use a few.
+constexpr int kMaxEntities = 1000;
 
-QSharedPointer<CustomStyleSheetData> m_xmlSharePointData;
 quint64 g_nRevision = 1;
 
 // Qt has no other reader that sees a document as QDomDocument does, entities and encodings included.
 QT_WARNING_PUSH
 QT_WARNING_DISABLE_DEPRECATED
 
-// Ends the reading of a document at the first element that is nested too deep.
-class DepthHandler : public QXmlDefaultHandler
+// Ends the reading of a document at what would take the program down.
+class LimitHandler : public QXmlDefaultHandler
 {
 public:
     bool startElement(const QString &, const QString &, const QString &, const QXmlAttributes &) override
     {
-        m_bTooDeep = ++m_nDepth > kMaxElementDepth;
-        return !m_bTooDeep;
+        m_bExceeded = ++m_nDepth > kMaxElementDepth;
+        return !m_bExceeded;
     }
     bool endElement(const QString &, const QString &, const QString &) override
     {
         --m_nDepth;
         return true;
     }
+    bool startEntity(const QString &name) override
+    {
+        static const QStringList s_lstPredefined = { QStringLiteral("amp"), QStringLiteral("lt"), QStringLiteral("gt"),
+            QStringLiteral("quot"), QStringLiteral("apos") };
+        if (!s_lstPredefined.contains(name))
+            m_bExceeded = ++m_nEntities > kMaxEntities;
+        return !m_bExceeded;
+    }
     QString errorString() const override { return QString(); }
-    bool isTooDeep() const { return m_bTooDeep; }
+    bool isExceeded() const { return m_bExceeded; }
 
 private:
     int m_nDepth = 0;
-    bool m_bTooDeep = false;
+    int m_nEntities = 0;
+    bool m_bExceeded = false;
 };
 
-bool isTooDeep(const QByteArray &bytes)
+bool exceedsLimits(const QByteArray &bytes)
 {
     QXmlInputSource source;
     source.setData(bytes);
-    DepthHandler handler;
+    LimitHandler handler;
     QXmlSimpleReader reader;
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespaces"), false);
     reader.setFeature(QStringLiteral("http://xml.org/sax/features/namespace-prefixes"), true);
     reader.setFeature(QStringLiteral("http://trolltech.com/xml/features/report-whitespace-only-CharData"), false);
+    reader.setFeature(QStringLiteral("http://trolltech.com/xml/features/report-start-end-entity"), true);
     reader.setContentHandler(&handler);
+    reader.setLexicalHandler(&handler);
     reader.setErrorHandler(&handler);
     reader.parse(&source);
-    return handler.isTooDeep();
+    return handler.isExceeded();
 }
 
 QT_WARNING_POP
+
+QSharedPointer<CustomStyleSheetData> &xmlSharePointData()
+{
+    static QSharedPointer<CustomStyleSheetData> m_xmlSharePointData;
+    return m_xmlSharePointData;
+}
 
 bool readFile(const QString &path, QByteArray *bytes)
 {
@@ -86,7 +104,7 @@ bool readFile(const QString &path, QByteArray *bytes)
 bool readXml(const QString &path, QDomDocument *document)
 {
     QByteArray bytes;
-    return readFile(path, &bytes) && !isTooDeep(bytes) && document->setContent(bytes);
+    return readFile(path, &bytes) && !exceedsLimits(bytes) && document->setContent(bytes);
 }
 
 // The attributes of one class: those of its selectors, each under the selector's name.
@@ -139,7 +157,7 @@ void notifyAllWidgets()
 
 CustomStyleSheetData *CustomStyleSheetData::instance()
 {
-    return m_xmlSharePointData.data();
+    return xmlSharePointData().data();
 }
 
 quint64 CustomStyleSheetData::revision()
@@ -156,15 +174,15 @@ void CustomStyleSheetData::invalidateDerived()
 
 void CustomStyleSheetData::reset()
 {
-    m_xmlSharePointData.reset();
+    xmlSharePointData().reset();
     clearStyleSheets();
     invalidateDerived();
 }
 
 void Custom::initStyleSheetDataPointer()
 {
-    if (!m_xmlSharePointData)
-        m_xmlSharePointData.reset(new (std::nothrow) CustomStyleSheetData);
+    if (!xmlSharePointData())
+        xmlSharePointData().reset(new (std::nothrow) CustomStyleSheetData);
 }
 
 void Custom::initXmlInfo(const QString &path)

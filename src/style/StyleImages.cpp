@@ -22,7 +22,15 @@ struct LoadedImage
     QDateTime modified;
 };
 
-QCache<QString, LoadedImage> g_Images(kCacheKiB);
+QCache<QString, LoadedImage> &images()
+{
+    static QCache<QString, LoadedImage> s_Images(kCacheKiB);
+    // Pixmaps must not outlive the application object.
+    static const bool s_bRegistered = (qAddPostRoutine(StyleImages::clear), true);
+    Q_UNUSED(s_bRegistered)
+    return s_Images;
+}
+
 quint64 g_nGeneration = 1;
 
 bool isResource(const QString &path)
@@ -125,7 +133,7 @@ QPixmap StyleImages::pixmap(const QString &path)
     if (path.isEmpty() || path.contains(QChar(QChar::Null)))
         return QPixmap();
     const bool resource = isResource(path);
-    const LoadedImage *known = g_Images.object(path);
+    const LoadedImage *known = images().object(path);
     if (known && resource)
         return known->pixmap;
     const QFileInfo file(path);
@@ -134,7 +142,7 @@ QPixmap StyleImages::pixmap(const QString &path)
     const QPixmap pixmap = loadPixmap(path);
     // A file that isn't there yet is looked for again; one that is there and broken isn't.
     if (!pixmap.isNull() || QFileInfo::exists(path))
-        g_Images.insert(path, new LoadedImage{ pixmap, file.size(), file.lastModified() }, costOf(pixmap));
+        images().insert(path, new LoadedImage{ pixmap, file.size(), file.lastModified() }, costOf(pixmap));
     return pixmap;
 }
 
@@ -142,7 +150,7 @@ QPixmap StyleImages::pixmapForRatio(const QString &path, qreal ratio)
 {
     for (int n = qMin(qCeil(ratio), kMaxRatio); n > 1; --n) {
         const QString candidate = pathForRatio(path, n);
-        if (g_Images.contains(candidate) || QFileInfo::exists(candidate))
+        if (images().contains(candidate) || QFileInfo::exists(candidate))
             return pixmap(candidate);
     }
     return pixmap(path);
@@ -155,7 +163,7 @@ QIcon StyleImages::icon(const QString &path)
 
 void StyleImages::clear()
 {
-    g_Images.clear();
+    images().clear();
     ++g_nGeneration;
 }
 

@@ -25,13 +25,18 @@ const SheetTag s_lstSheetTags[] = {
     { Custom::SheetTreeWidget, QLatin1String("CustomTreeWidget") },
 };
 
-QMap<int, QString> g_StyleSheets;
+// The finished sheets by their type.
+QMap<int, QString> &g_StyleSheets()
+{
+    static QMap<int, QString> s_Sheets;
+    return s_Sheets;
+}
 
 } // namespace
 
 void CustomStyleSheetData::clearStyleSheets()
 {
-    g_StyleSheets.clear();
+    g_StyleSheets().clear();
 }
 
 void Custom::initFontFamily()
@@ -92,7 +97,7 @@ void Custom::setGlobalFontFamily(Language language, const QString &family)
 
 void Custom::initStyleSheets()
 {
-    if (!g_StyleSheets.isEmpty())
+    if (!g_StyleSheets().isEmpty())
         return;
     initXmlInfo(QLatin1String(c_szBaseXmlPath));
     CustomStyleSheetData *data = CustomStyleSheetData::instance();
@@ -107,12 +112,12 @@ void Custom::initStyleSheets()
         QString sheet = readFileContent(it.value());
         sheet.replace(QLatin1String("##ZhcnFontFamily##"), chinese);
         sheet.replace(QLatin1String("##EnusFontFamily##"), english);
-        g_StyleSheets[it.key()] = sheet;
+        g_StyleSheets()[it.key()] = sheet;
     }
 }
 
 const QString &Custom::styleSheet(StyleSheetType type)
 {
     initStyleSheets();
-    return g_StyleSheets[type];
+    return g_StyleSheets()[type];
 }

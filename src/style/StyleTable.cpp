@@ -2,19 +2,34 @@
 
 #include "style/CustomStyleSheetData_p.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
 
 namespace {
 
 using AttributeMap = QMap<QString, QString>;
 
-QHash<QString, std::shared_ptr<StyleTable>> g_Tables;
-QHash<QString, AttributeMap> g_AttrMaps;
+// Class, selector and parent class.
+using Names = QPair<QString, QPair<QString, QString>>;
 
-// A line break stands in no name that a document can give.
-QString cacheKey(const QString &className, const QString &selector, const QString &parentClassName)
+Names names(const QString &className, const QString &selector, const QString &parentClassName)
 {
-    return className + QLatin1Char('\n') + selector + QLatin1Char('\n') + parentClassName;
+    return qMakePair(className, qMakePair(selector, parentClassName));
+}
+
+struct Caches
+{
+    QHash<Names, std::shared_ptr<StyleTable>> tables;
+    QHash<Names, AttributeMap> attrMaps;
+};
+
+Caches &caches()
+{
+    static Caches s_Caches;
+    // What was worked out from a table holds icons, which must not outlive the application object.
+    static const bool s_bRegistered = (qAddPostRoutine(StyleTable::clearCache), true);
+    Q_UNUSED(s_bRegistered)
+    return s_Caches;
 }
 
 // The attributes of one class, those of all its selectors; null when the documents don't know it.
@@ -52,15 +67,15 @@ QMap<QString, QString> Custom::getAttrMap(
     const CustomStyleSheetData *data = CustomStyleSheetData::instance();
     if (!data)
         return {};
-    const QString key = cacheKey(className, selector, parentClassName);
-    const auto known = g_AttrMaps.constFind(key);
-    if (known != g_AttrMaps.cend())
+    const Names key = names(className, selector, parentClassName);
+    const auto known = caches().attrMaps.constFind(key);
+    if (known != caches().attrMaps.cend())
         return *known;
     const AttributeMap *classNode = findClass(*data, className, parentClassName);
     if (!classNode)
         return {};
     const QString equal = data->equalSelectors.value(className.toLower() + QLatin1String("##") + selector, selector);
-    return *g_AttrMaps.insert(key, collect(*classNode, equal));
+    return *caches().attrMaps.insert(key, collect(*classNode, equal));
 }
 
 QString Custom::attributeValue(
@@ -97,16 +112,16 @@ StyleTable::StyleTable(const QString &className, const QString &selector, const 
 std::shared_ptr<StyleTable> StyleTable::get(
     const QString &className, const QString &selector, const QString &parentClassName)
 {
-    const QString key = cacheKey(className, selector, parentClassName);
-    if (const std::shared_ptr<StyleTable> known = g_Tables.value(key))
+    const Names key = names(className, selector, parentClassName);
+    if (const std::shared_ptr<StyleTable> known = caches().tables.value(key))
         return known;
     const auto table = std::make_shared<StyleTable>(className, selector, parentClassName);
-    g_Tables.insert(key, table);
+    caches().tables.insert(key, table);
     return table;
 }
 
 void StyleTable::clearCache()
 {
-    g_Tables.clear();
-    g_AttrMaps.clear();
+    caches().tables.clear();
+    caches().attrMaps.clear();
 }
