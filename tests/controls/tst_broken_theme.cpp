@@ -195,6 +195,7 @@ void BrokenThemeTest::hugeDocument()
 {
     // 10 MB: many attributes, and one value of 2 MB.
     QByteArray values = "<ObjectParameter>286</ObjectParameter><Note>" + QByteArray(2 * 1024 * 1024, 'x') + "</Note>";
+    values.reserve(11 * 1024 * 1024);
     for (int i = 0; values.size() < 10 * 1024 * 1024; ++i)
         values
             += "<Attribute" + QByteArray::number(i) + ">DB_COLOR_Some_Name</Attribute" + QByteArray::number(i) + ">\n";
