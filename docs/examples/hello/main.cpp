@@ -4,16 +4,10 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
-static void applySkin(bool dark)
-{
-    ZanthicTheme::applySkin(dark ? QStringLiteral("dark") : QStringLiteral("light"));
-    Custom::setLanguage(Custom::En_us); // a new skin puts the font of the first language, Zh_cn, in force
-}
-
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    applySkin(false);
+    ZanthicTheme::applySkin(QStringLiteral("light"));
 
     CustomWidget window;
     auto *layout = new QVBoxLayout(&window);
@@ -22,7 +16,8 @@ int main(int argc, char *argv[])
     layout->addWidget(new CustomPushButton(QStringLiteral("Save"), &window));
     layout->addWidget(new CustomPushButton(QStringLiteral("Cancel"), &window, CustomPushButton::MiddleBase));
 
-    QObject::connect(dark, &QCheckBox::toggled, applySkin);
+    QObject::connect(dark, &QCheckBox::toggled,
+        [](bool on) { ZanthicTheme::applySkin(on ? QStringLiteral("dark") : QStringLiteral("light")); });
     window.show();
     return QApplication::exec();
 }
