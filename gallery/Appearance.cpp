@@ -40,11 +40,13 @@ QStringList Appearance::languages()
     return { QStringLiteral("en_US"), QStringLiteral("zh_CN") };
 }
 
-void Appearance::start(const QString &skin, const QString &language)
+void Appearance::start(const QString &skin, const QString &language, const QStringList &documents)
 {
     m_language = language;
     applySkin(skin);
     Custom::addXmlPath(QStringLiteral(":/Gallery/style/GalleryStyle.xml"));
+    for (const QString &document : documents)
+        Custom::addXmlPath(document);
     applyLanguage(language);
 }
 

@@ -22,7 +22,7 @@ public:
     static QStringList languages(); ///< the names that applyLanguage() takes
 
     /// Takes up the gallery's own style document and sets both; to be called once, before any widget is made.
-    void start(const QString &skin, const QString &language);
+    void start(const QString &skin, const QString &language, const QStringList &documents = {});
     QString skin() const { return m_skin; }
     QString language() const { return m_language; }
 

@@ -4,11 +4,17 @@
 #include "pages/PageRegistry.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtXml/QDomDocument>
 
 CommandLine::CommandLine()
     : m_pageOption(QStringLiteral("page"), QStringLiteral("Open or render the page <name>."), QStringLiteral("name")),
       m_skinOption(QStringLiteral("skin"), QStringLiteral("Use the skin <name>."), QStringLiteral("name")),
       m_languageOption(QStringLiteral("language"), QStringLiteral("Use the language <name>."), QStringLiteral("name")),
+      m_documentOption(QStringLiteral("document"),
+          QStringLiteral("Take up the style document <file> too; may be given more than once. The engine page shows "
+                         "what it says."),
+          QStringLiteral("file")),
       m_grabOption(QStringLiteral("grab"),
           QStringLiteral("Render the pages off screen into <folder> as PNG files, print their paths and exit. Without "
                          "--page, --skin or --language: each of them."),
@@ -18,7 +24,7 @@ CommandLine::CommandLine()
       m_versionOption(m_parser.addVersionOption())
 {
     m_parser.setApplicationDescription(QStringLiteral("Every control of Zanthic, page by page."));
-    m_parser.addOptions({ m_pageOption, m_skinOption, m_languageOption, m_grabOption, m_listOption });
+    m_parser.addOptions({ m_pageOption, m_skinOption, m_languageOption, m_documentOption, m_grabOption, m_listOption });
 }
 
 void CommandLine::parse(const QStringList &arguments)
@@ -40,8 +46,30 @@ bool CommandLine::check()
         m_error = QStringLiteral("--grab needs a folder.");
         return false;
     }
-    return resolve(m_pageOption, pageNames(), &m_page) && resolve(m_skinOption, Appearance::skins(), &m_skin)
+    return checkDocuments() && resolve(m_pageOption, pageNames(), &m_page)
+        && resolve(m_skinOption, Appearance::skins(), &m_skin)
         && resolve(m_languageOption, Appearance::languages(), &m_language);
+}
+
+// The library passes over a document that can't be read; whoever names one here wants to know.
+bool CommandLine::checkDocuments()
+{
+    const QStringList paths = documents();
+    for (const QString &path : paths) {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly)) {
+            m_error = QStringLiteral("Can't open the document '%1': %2.").arg(path, file.errorString());
+            return false;
+        }
+        QDomDocument document;
+        QString message;
+        int line = 0;
+        if (!document.setContent(&file, &message, &line)) {
+            m_error = QStringLiteral("Can't read the document '%1', line %2: %3.").arg(path).arg(line).arg(message);
+            return false;
+        }
+    }
+    return true;
 }
 
 bool CommandLine::resolve(const QCommandLineOption &option, const QStringList &known, QString *name)
@@ -92,6 +120,11 @@ QString CommandLine::information() const
         .arg(pageNames().join(separator), Appearance::skins().join(separator), Appearance::languages().join(separator));
 }
 
+QStringList CommandLine::documents() const
+{
+    return m_parser.values(m_documentOption);
+}
+
 QString CommandLine::grabFolder() const
 {
     return m_parser.isSet(m_grabOption) ? m_parser.value(m_grabOption) : QStringLiteral("build/gallery");
@@ -104,5 +137,6 @@ GrabPlan CommandLine::grabPlan() const
     plan.pages = m_parser.isSet(m_pageOption) ? QStringList(m_page) : pageNames();
     plan.skins = m_parser.isSet(m_skinOption) ? QStringList(m_skin) : Appearance::skins();
     plan.languages = m_parser.isSet(m_languageOption) ? QStringList(m_language) : Appearance::languages();
+    plan.documents = documents();
     return plan;
 }

@@ -29,16 +29,19 @@ public:
     QString page() const { return m_page; } ///< the first page, unless one is given
     QString skin() const { return m_skin; }
     QString language() const { return m_language; }
+    QStringList documents() const; ///< style documents to take up beside the theme's, in order
     QString grabFolder() const;
     GrabPlan grabPlan() const;
 
 private:
+    bool checkDocuments();
     bool resolve(const QCommandLineOption &option, const QStringList &known, QString *name);
 
     QCommandLineParser m_parser;
     QCommandLineOption m_pageOption;
     QCommandLineOption m_skinOption;
     QCommandLineOption m_languageOption;
+    QCommandLineOption m_documentOption;
     QCommandLineOption m_grabOption;
     QCommandLineOption m_listOption;
     QCommandLineOption m_helpOption;

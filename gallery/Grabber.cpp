@@ -14,7 +14,7 @@ GrabResult grabAll(const GrabPlan &plan)
         return result;
     }
     Appearance appearance;
-    appearance.start(plan.skins.value(0), plan.languages.value(0));
+    appearance.start(plan.skins.value(0), plan.languages.value(0), plan.documents);
     GalleryWindow window(&appearance);
     for (const QString &language : plan.languages) {
         for (const QString &skin : plan.skins) {

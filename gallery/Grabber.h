@@ -9,6 +9,7 @@ struct GrabPlan
     QStringList pages;
     QStringList skins;
     QStringList languages;
+    QStringList documents; ///< taken up beside the theme's
 };
 
 struct GrabResult

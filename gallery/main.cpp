@@ -36,7 +36,7 @@ int grabPages(const CommandLine &line)
 int openWindow(const CommandLine &line)
 {
     Appearance appearance;
-    appearance.start(line.skin(), line.language());
+    appearance.start(line.skin(), line.language(), line.documents());
     GalleryWindow window(&appearance);
     window.openPage(line.page());
     window.show();
