@@ -2,8 +2,11 @@
 
 #include "ZanthicThemeData.h"
 
+#include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/Custom.h>
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
 #include <QtCore/QResource>
 
 #include <array>
@@ -84,13 +87,49 @@ QString ZanthicTheme::currentSkin()
     return skin ? QString::fromLatin1(skin->name) : QString();
 }
 
+namespace {
+
+// The documents of a new skin put the font of the first language in force. This puts that of the current language back
+// before the first widget is told of the skin, so that none sees another font.
+class FontKeeper : public QObject
+{
+public:
+    FontKeeper()
+    {
+        if (QCoreApplication *application = QCoreApplication::instance())
+            application->installEventFilter(this);
+    }
+    // Where there was no widget to tell.
+    ~FontKeeper() override { keepFont(); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (int(event->type()) == ChangeSkinEvent::EventType) {
+            keepFont();
+            QCoreApplication::instance()->removeEventFilter(this);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void keepFont()
+    {
+        if (!m_bKept)
+            Custom::setLanguage(Custom::language());
+        m_bKept = true;
+    }
+
+    bool m_bKept = false;
+};
+
+} // namespace
+
 bool ZanthicTheme::applySkin(const QString &name)
 {
     const Skin *skin = findSkin(name);
     if (!skin || !registration().apply(*skin))
         return false;
+    const FontKeeper keeper;
     Custom::changeSkin();
-    // The documents have put the font of the first language in force.
-    Custom::setLanguage(Custom::language());
     return true;
 }

@@ -31,7 +31,8 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    /// The user has changed the state, to a Qt::CheckState; setChecked() from code doesn't emit this.
+    /// The user has changed the state by the mouse, to a Qt::CheckState. Keys and setChecked() from code don't emit
+    /// this; stateChanged() tells of every change.
     void sigStateChanged(int nState);
 
 protected:

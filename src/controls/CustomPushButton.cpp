@@ -60,7 +60,10 @@ CustomPushButton::CustomPushButton(const QString &text, QWidget *parent, StyleSe
     setDefault(false);
 }
 
-CustomPushButton::~CustomPushButton() = default;
+CustomPushButton::~CustomPushButton()
+{
+    CustomPushButtonPrivate::controlList().removeOne(d->controlIndex);
+}
 
 void CustomPushButton::cSetButtonStyleSelector(StyleSelector selector)
 {

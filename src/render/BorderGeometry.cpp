@@ -1,4 +1,5 @@
 #include "render/BorderGeometry_p.h"
+#include "render/PainterTools_p.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QPen>
@@ -136,6 +137,8 @@ std::vector<BorderLayout::EdgeJob> BorderLayout::edgeJobs(
 void Custom::cDrawBorder(QPainter *painter, const QRect &rect, const BorderStyle *styles, const int *borders,
     const QBrush *colors, const QSize *radii)
 {
+    if (!isUsable(painter) || !styles || !borders || !colors || !radii)
+        return;
     for (const BorderLayout::EdgeJob &job : BorderLayout::edgeJobs(rect, styles, borders, colors, radii)) {
         const Band &band = job.place.band;
         cDrawEdge(painter, band.x1, band.y1, band.x2, band.y2, job.dw1, job.dw2, job.edge, styles[job.edge],
@@ -149,6 +152,8 @@ void Custom::cDrawBorder(QPainter *painter, const QRect &rect, const BorderStyle
 void Custom::cDrawEdge(QPainter *painter, double x1, double y1, double x2, double y2, double dw1, double dw2,
     BorderEdge edge, BorderStyle style, QBrush brush)
 {
+    if (!isUsable(painter))
+        return;
     const Band band{ x1, y1, x2, y2 };
     painter->save();
     if (style == BorderDouble && band.thickness(edge) <= 2.0)
@@ -186,6 +191,8 @@ void Custom::cDrawEdge(QPainter *painter, double x1, double y1, double x2, doubl
 void Custom::cDrawRoundedCorners(QPainter *painter, double x1, double y1, double x2, double y2, const QSizeF &r1,
     const QSizeF &r2, BorderEdge edge, BorderStyle style, QBrush brush)
 {
+    if (!isUsable(painter))
+        return;
     const Band band{ x1, y1, x2, y2 };
     if (style == BorderDouble) {
         drawCornerBands(

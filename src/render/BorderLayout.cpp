@@ -34,6 +34,8 @@ bool exceeds(int first, int second, int limit)
 void Custom::cNormalizeRadii(
     const QRect &rect, const QSize *radii, QSize *leftTop, QSize *rightTop, QSize *leftBottom, QSize *rightBottom)
 {
+    if (!radii || !leftTop || !rightTop || !leftBottom || !rightBottom)
+        return;
     const QSize zero(0, 0);
     *leftTop = radii[LeftTop].expandedTo(zero);
     *rightTop = radii[RightTop].expandedTo(zero);
@@ -47,9 +49,11 @@ void Custom::cNormalizeRadii(
 
 QPainterPath Custom::cBorderClip(QRect rect, const int *borders, const QSize *radii)
 {
+    QPainterPath path;
+    if (!borders || !radii)
+        return path;
     QSize tl, tr, bl, br;
     cNormalizeRadii(rect, radii, &tl, &tr, &bl, &br);
-    QPainterPath path;
     if (isNull(tl) && isNull(tr) && isNull(bl) && isNull(br))
         return path;
     const QRectF box(rect);

@@ -3,7 +3,7 @@
 #include <Zanthic/CustomObject.h>
 
 #include "render/BoxPainter_p.h"
-#include "render/HintGuard_p.h"
+#include "render/PainterTools_p.h"
 #include "style/CustomObject_p.h"
 
 #include <QtGui/QPainter>
@@ -21,12 +21,6 @@ constexpr qint64 kFarCoordinate = 1 << 29;
 int toCoordinate(qint64 value)
 {
     return int(qBound(-kFarCoordinate, value, kFarCoordinate));
-}
-
-// A window that is too large for a surface gives its widgets painters that can't paint.
-bool isUsable(const QPainter *painter)
-{
-    return painter && painter->isActive();
 }
 
 // The widths and radii that the control's flags let through.

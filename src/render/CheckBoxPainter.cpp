@@ -2,10 +2,10 @@
 
 #include "render/CheckBoxLayout_p.h"
 #include "render/ControlQueries_p.h"
+#include "render/PainterTools_p.h"
 #include "render/TextPalette_p.h"
 #include "style/CustomObject_p.h"
 
-#include <QtGui/QPainter>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QWidget>
 
@@ -63,7 +63,8 @@ void drawText(
 void CustomObject::cDrawCheckBox(
     Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option, QWidget *widget)
 {
-    if (!d || !option || option->version < 1 || option->type != QStyleOption::SO_Button || !widget)
+    if (!d || !isUsable(painter) || !option || option->version < 1 || option->type != QStyleOption::SO_Button
+        || !widget)
         return;
     auto &button = *static_cast<QStyleOptionButton *>(option);
     const Custom::ItemStatus status = cGetItemStatus(option->state);

@@ -3,11 +3,11 @@
 #include <Zanthic/CustomObject.h>
 
 #include "render/ControlQueries_p.h"
+#include "render/PainterTools_p.h"
 #include "render/RoundedMask_p.h"
 #include "style/CustomObject_p.h"
 #include "style/StyleImages_p.h"
 
-#include <QtGui/QPainter>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleOption>
@@ -127,7 +127,7 @@ QSize indicatorButtonSize(
 void CustomObject::cDrawWidget(
     Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option)
 {
-    if (!d || !painter || !painter->isActive())
+    if (!d || !isUsable(painter))
         return;
     switch (type) {
     case Custom::WidgetCheckBox:

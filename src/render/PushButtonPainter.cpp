@@ -1,10 +1,10 @@
 #include <Zanthic/CustomObject.h>
 
+#include "render/PainterTools_p.h"
 #include "render/PushButtonLayout_p.h"
 #include "render/TextPalette_p.h"
 #include "style/CustomObject_p.h"
 
-#include <QtGui/QPainter>
 #include <QtGui/QWindow>
 #include <QtWidgets/QStyleOption>
 #include <QtWidgets/QWidget>
@@ -84,7 +84,8 @@ void CustomObject::cDrawPushButton(
     Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option, QWidget *widget)
 {
     Q_UNUSED(type)
-    if (!d || !option || option->version < 1 || option->type != QStyleOption::SO_Button || !widget || !widget->style())
+    if (!d || !isUsable(painter) || !option || option->version < 1 || option->type != QStyleOption::SO_Button || !widget
+        || !widget->style())
         return;
     auto &button = *static_cast<QStyleOptionButton *>(option);
     const Custom::ItemStatus status = cGetItemStatus(option->state);

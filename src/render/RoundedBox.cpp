@@ -4,7 +4,7 @@
 #include "render/BorderGeometry_p.h"
 #include "render/BoxPainter_p.h"
 #include "render/BoxPictures_p.h"
-#include "render/HintGuard_p.h"
+#include "render/PainterTools_p.h"
 
 namespace {
 

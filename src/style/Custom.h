@@ -214,7 +214,7 @@ ZANTHIC_EXPORT void clearHotKey();
 ZANTHIC_EXPORT void activeHotKey(QKeyEvent *event);
 /// Whether hot keys work: no modal window is open.
 ZANTHIC_EXPORT bool enableActiveShortcut();
-/// Sets the receiver of hot key events; it is not owned and must outlive its use here.
+/// Sets the receiver of hot key events. It is not owned; one that is destroyed is forgotten.
 ZANTHIC_EXPORT void setMainDialog(QWidget *dialog);
 ZANTHIC_EXPORT QWidget *mainDialog(); ///< the receiver of hot key events, null at start
 ZANTHIC_EXPORT QString version(); ///< the version and the date of the build, as in "V2.0.0_20240229"

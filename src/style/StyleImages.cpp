@@ -1,5 +1,7 @@
 #include "style/StyleImages_p.h"
 
+#include "style/PostRoutine_p.h"
+
 #include <QtCore/QCache>
 #include <QtCore/QDateTime>
 #include <QtCore/QFileInfo>
@@ -25,9 +27,8 @@ struct LoadedImage
 QCache<QString, LoadedImage> &images()
 {
     static QCache<QString, LoadedImage> s_Images(kCacheKiB);
-    // Pixmaps must not outlive the application object.
-    static const bool s_bRegistered = (qAddPostRoutine(StyleImages::clear), true);
-    Q_UNUSED(s_bRegistered)
+    static PostRoutine s_Routine(StyleImages::clear);
+    s_Routine.ensure();
     return s_Images;
 }
 
@@ -98,14 +99,17 @@ private:
 
     const QIcon &icon() const
     {
-        if (m_nGeneration != g_nGeneration) {
-            m_oIcon = makeIcon();
+        const qreal ratio = qApp->devicePixelRatio();
+        if (m_nGeneration != g_nGeneration || m_nRatio != ratio) {
+            m_oIcon = makeIcon(ratio);
             m_nGeneration = g_nGeneration;
+            m_nRatio = ratio;
         }
         return m_oIcon;
     }
 
-    QIcon makeIcon() const
+    // As QIcon does it for a path: the picture itself, and the one for the sharpest screen.
+    QIcon makeIcon(qreal ratio) const
     {
         const QPixmap base = StyleImages::pixmap(m_strPath);
         const bool scalable = m_strPath.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)
@@ -113,17 +117,16 @@ private:
         if (base.isNull() || scalable)
             return QIcon(m_strPath);
         QIcon result(base);
-        for (int ratio = 2; ratio <= 3; ++ratio) {
-            const QString path = pathForRatio(m_strPath, ratio);
-            if (QFileInfo::exists(path))
-                result.addPixmap(StyleImages::pixmap(path));
-        }
+        const QPixmap sharp = StyleImages::pixmapForRatio(m_strPath, ratio);
+        if (sharp.cacheKey() != base.cacheKey())
+            result.addPixmap(sharp);
         return result;
     }
 
     QString m_strPath;
     mutable QIcon m_oIcon;
     mutable quint64 m_nGeneration = 0;
+    mutable qreal m_nRatio = 0.0;
 };
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "style/StyleTable_p.h"
 
 #include "style/CustomStyleSheetData_p.h"
+#include "style/PostRoutine_p.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
 
 namespace {
@@ -26,9 +26,8 @@ struct Caches
 Caches &caches()
 {
     static Caches s_Caches;
-    // What was worked out from a table holds icons, which must not outlive the application object.
-    static const bool s_bRegistered = (qAddPostRoutine(StyleTable::clearCache), true);
-    Q_UNUSED(s_bRegistered)
+    static PostRoutine s_Routine(StyleTable::clearCache);
+    s_Routine.ensure();
     return s_Caches;
 }
 

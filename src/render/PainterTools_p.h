@@ -4,6 +4,12 @@
 
 #include <QtGui/QPainter>
 
+/// Whether a painter can paint. A window that is too large for a surface gives its widgets painters that can't.
+inline bool isUsable(const QPainter *painter)
+{
+    return painter && painter->isActive();
+}
+
 /// Sets a render hint and puts it back.
 class HintGuard
 {
