@@ -39,7 +39,7 @@ void FigureReporter::ReportRuns(const std::vector<Run> &runs)
         if (run.run_type != Run::RT_Iteration || run.iterations == 0)
             continue;
         const std::string row = rowName(run.benchmark_name());
-        m_mapTimes[row].push_back(run.real_accumulated_time / double(run.iterations) * 1e9);
+        m_mapTimes[row].push_back(run.cpu_accumulated_time / double(run.iterations) * 1e9);
         for (const auto &counter : run.counters)
             m_mapCounters[row][counter.first] = counter.second.value;
     }
@@ -77,6 +77,9 @@ std::vector<FigureReporter::Figure> FigureReporter::figures() const
             "a button's paint / the bare painter calls of box and text" },
         { "paint_checkbox_vs_sheet", ratio(nanoseconds("paint/checkbox/zanthic"), nanoseconds("paint/checkbox/sheet")),
             "a check box's paint / under a style sheet; at most 0.75" },
+        { "paint_checkbox_vs_image_sheet",
+            ratio(nanoseconds("paint/checkbox/zanthic"), nanoseconds("paint/checkbox/sheet_of_images")),
+            "the same, against a sheet that draws ready images only" },
         { "memory_kib_per_button", counter("memory/zanthic", "KiB_per_button"),
             "KiB for each painted button beyond a plain one; at most 2" },
         { "memory_kib_per_button_sheet", counter("memory/sheet", "KiB_per_button"), "the same with a style sheet" },

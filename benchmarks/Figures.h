@@ -12,7 +12,8 @@ class FigureReporter : public benchmark::ConsoleReporter
 public:
     void ReportRuns(const std::vector<Run> &runs) override;
 
-    /// The median real time of a row in ns; 0 when it did not run.
+    /// The median processor time of a row in ns, which other programs disturb less than the time that passes; 0 when it
+    /// did not run.
     double nanoseconds(const std::string &row) const;
     /// A counter of a row; 0 when it did not run.
     double counter(const std::string &row, const std::string &name) const;

@@ -6,6 +6,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
 
 #include <malloc.h>
 #include <unistd.h>
@@ -26,8 +27,16 @@ QString color(const char *name)
 
 void Fixtures::useTheme()
 {
-    if (ZanthicTheme::currentSkin() != QLatin1String("light"))
-        ZanthicTheme::applySkin(QStringLiteral("light"));
+    if (ZanthicTheme::currentSkin() == QLatin1String("light"))
+        return;
+    ZanthicTheme::applySkin(QStringLiteral("light"));
+    // One plain font for everybody: shaping a text takes longer in some fonts than painting all the rest.
+    const QString family = QStringLiteral("DejaVu Sans");
+    Custom::setGlobalFontFamily(Custom::En_us, family);
+    Custom::setLanguage(Custom::En_us);
+    QFont font(family);
+    font.setPixelSize(14);
+    QApplication::setFont(font);
 }
 
 QString Fixtures::equivalentSheet(bool dark)
@@ -40,15 +49,27 @@ QString Fixtures::equivalentSheet(bool dark)
                           "QPushButton:pressed { background-color: %5; border-color: %5; }"
                           "QPushButton:disabled { background-color: %6; color: %7; border-color: %6; }"
                           "QCheckBox { color: %8; font-size: 14px; spacing: 10px; }"
-                          "QCheckBox::indicator { width: 20px; height: 20px; }"
-                          "QCheckBox::indicator:unchecked {"
-                          " image: url(:/Zanthic/Control/CheckBox_unchecked_Default.png); }"
-                          "QCheckBox::indicator:checked { image: url(:/Zanthic/Control/CheckBox_checked_Default.png); }"
-                          "QCheckBox::indicator:checked:hover {"
-                          " image: url(:/Zanthic/Control/CheckBox_checked_Default_Hover.png); }")
+                          "QCheckBox::indicator { width: 18px; height: 18px; background-color: %9;"
+                          " border: 1px solid %10; border-radius: 4px; }"
+                          "QCheckBox::indicator:checked { background-color: %1; border-color: %1;"
+                          " image: url(:/Zanthic/Control/Menu_Tick.png); }"
+                          "QCheckBox::indicator:checked:hover { background-color: %4; border-color: %4; }")
         .arg(background, color("Custom_Accent"), color("Custom_Accent_Text"), color("Custom_Accent_Hover"),
             color("Custom_Accent_Pressed"), color("Custom_Accent_Disabled"), color("Custom_Accent_Text_Disabled"),
-            color("Custom_Font"));
+            color("Custom_Font"), color("Custom_Indicator"))
+        .arg(color("Custom_Indicator_Border"));
+}
+
+QString Fixtures::imageSheet()
+{
+    useTheme();
+    const QString image = QStringLiteral("QCheckBox::indicator:%1 { image: url(:/Zanthic/Control/CheckBox_%2.png); }");
+    return QStringLiteral("QCheckBox { color: %1; font-size: 14px; spacing: 10px; }"
+                          "QCheckBox::indicator { width: 20px; height: 20px; }")
+               .arg(color("Custom_Font"))
+        + image.arg(QStringLiteral("unchecked"), QStringLiteral("unchecked_Default"))
+        + image.arg(QStringLiteral("checked"), QStringLiteral("checked_Default"))
+        + image.arg(QStringLiteral("checked:hover"), QStringLiteral("checked_Default_Hover"));
 }
 
 std::unique_ptr<QWidget> Fixtures::shownWindow(int count, const std::function<QWidget *(QWidget *)> &make)

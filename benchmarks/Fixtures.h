@@ -10,10 +10,13 @@
 /// What the benchmarks measure, and what a user would otherwise take.
 namespace Fixtures {
 
-/// Takes up the light skin of the default theme.
+/// Takes up the light skin of the default theme, and one plain font for the controls and the whole application.
 void useTheme();
 /// A style sheet that gives plain Qt buttons and check boxes the look of the default theme. \p dark chooses the skin.
 QString equivalentSheet(bool dark);
+/// A style sheet that paints the whole indicator of a check box from the theme's ready images: the cheapest sheet
+/// there is.
+QString imageSheet();
 /// A shown and painted window of \p count children made by \p make.
 std::unique_ptr<QWidget> shownWindow(int count, const std::function<QWidget *(QWidget *)> &make);
 /// Lets pending events and paints pass.

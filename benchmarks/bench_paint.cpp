@@ -68,11 +68,12 @@ void buttonFusion(benchmark::State &state, Look look)
     measureButton<QPushButton>(state, look);
 }
 
-// The box and the text drawn by hand: the same geometry, nothing looked up.
+// The box, the image and the text drawn by hand: the same geometry, nothing looked up.
 class CallsWidget : public QWidget
 {
 public:
-    CallsWidget()
+    CallsWidget(bool hasBox, const QString &text, const QString &image = QString())
+        : m_bHasBox(hasBox), m_strText(text), m_oImage(image)
     {
         m_oFont.setPixelSize(14);
         m_oPath = Custom::cBorderClip(kButtonRect, m_lstWidths, m_lstRadii);
@@ -82,17 +83,23 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(m_oPath, m_oFill);
-        Custom::cDrawBorder(&painter, kButtonRect, m_lstStyles, m_lstWidths, m_lstColors, m_lstRadii);
-        painter.setRenderHint(QPainter::Antialiasing, false);
+        if (m_bHasBox) {
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.fillPath(m_oPath, m_oFill);
+            Custom::cDrawBorder(&painter, kButtonRect, m_lstStyles, m_lstWidths, m_lstColors, m_lstRadii);
+            painter.setRenderHint(QPainter::Antialiasing, false);
+        }
+        if (!m_oImage.isNull())
+            painter.drawPixmap(4, (Button_Height - m_oImage.height()) / 2, m_oImage);
         painter.setFont(m_oFont);
         painter.setPen(Qt::white);
         painter.drawText(kButtonRect, Qt::AlignCenter | Qt::TextHideMnemonic, m_strText);
     }
 
 private:
-    const QString m_strText = QStringLiteral("Button");
+    bool m_bHasBox;
+    QString m_strText;
+    QPixmap m_oImage;
     const QBrush m_oFill{ QColor(40, 100, 220) };
     const QBrush m_oBorder{ QColor(30, 80, 200) };
     const Custom::BorderStyle m_lstStyles[4]
@@ -104,9 +111,18 @@ private:
     QPainterPath m_oPath;
 };
 
-void buttonCalls(benchmark::State &state)
+void buttonCalls(benchmark::State &state, const char *image)
 {
-    CallsWidget widget;
+    Fixtures::useTheme();
+    CallsWidget widget(true, QStringLiteral("Button"), QLatin1String(image));
+    measurePaint(state, &widget);
+}
+
+void boxCalls(benchmark::State &state)
+{
+    Fixtures::useTheme();
+    CallsWidget widget(
+        false, QStringLiteral("Check box"), QStringLiteral(":/Zanthic/Control/CheckBox_checked_Default.png"));
     measurePaint(state, &widget);
 }
 
@@ -124,9 +140,9 @@ void boxZanthic(benchmark::State &state)
     measureBox<CustomCheckBox>(state);
 }
 
-void boxSheet(benchmark::State &state)
+void boxSheet(benchmark::State &state, const QString &sheet)
 {
-    qApp->setStyleSheet(Fixtures::equivalentSheet(false));
+    qApp->setStyleSheet(sheet);
     measureBox<QCheckBox>(state);
     qApp->setStyleSheet(QString());
 }
@@ -141,13 +157,17 @@ void boxFusion(benchmark::State &state)
 BENCHMARK_CAPTURE(buttonZanthic, normal, Look::Normal)->Name("paint/button/zanthic");
 BENCHMARK_CAPTURE(buttonSheet, normal, Look::Normal)->Name("paint/button/sheet");
 BENCHMARK_CAPTURE(buttonFusion, normal, Look::Normal)->Name("paint/button/fusion");
-BENCHMARK(buttonCalls)->Name("paint/button/calls");
+BENCHMARK_CAPTURE(buttonCalls, normal, "")->Name("paint/button/calls");
 BENCHMARK_CAPTURE(buttonZanthic, hover, Look::Hover)->Name("paint/button_hover/zanthic");
 BENCHMARK_CAPTURE(buttonSheet, hover, Look::Hover)->Name("paint/button_hover/sheet");
 BENCHMARK_CAPTURE(buttonFusion, hover, Look::Hover)->Name("paint/button_hover/fusion");
+BENCHMARK_CAPTURE(buttonCalls, hover, "")->Name("paint/button_hover/calls");
 BENCHMARK_CAPTURE(buttonZanthic, icon, Look::Icon)->Name("paint/button_icon/zanthic");
 BENCHMARK_CAPTURE(buttonSheet, icon, Look::Icon)->Name("paint/button_icon/sheet");
 BENCHMARK_CAPTURE(buttonFusion, icon, Look::Icon)->Name("paint/button_icon/fusion");
+BENCHMARK_CAPTURE(buttonCalls, icon, ":/Zanthic/Icons/search.png")->Name("paint/button_icon/calls");
 BENCHMARK(boxZanthic)->Name("paint/checkbox/zanthic");
-BENCHMARK(boxSheet)->Name("paint/checkbox/sheet");
+BENCHMARK_CAPTURE(boxSheet, drawn, Fixtures::equivalentSheet(false))->Name("paint/checkbox/sheet");
+BENCHMARK_CAPTURE(boxSheet, images, Fixtures::imageSheet())->Name("paint/checkbox/sheet_of_images");
 BENCHMARK(boxFusion)->Name("paint/checkbox/fusion");
+BENCHMARK(boxCalls)->Name("paint/checkbox/calls");

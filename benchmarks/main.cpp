@@ -1,8 +1,10 @@
 #include "Figures.h"
+#include "Fixtures.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleFactory>
 
+#include <cstdio>
 #include <cstring>
 
 void printMemoryOf(const QString &kind);
@@ -34,6 +36,7 @@ int main(int argc, char *argv[])
         return 0;
     }
 
+    Fixtures::useTheme();
     int restCount = int(rest.size());
     benchmark::Initialize(&restCount, rest.data());
     if (benchmark::ReportUnrecognizedArguments(restCount, rest.data()))
@@ -41,5 +44,8 @@ int main(int argc, char *argv[])
     FigureReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     reporter.printTable();
-    return jsonPath.empty() || reporter.writeJson(jsonPath) ? 0 : 1;
+    if (jsonPath.empty() || reporter.writeJson(jsonPath))
+        return 0;
+    std::fprintf(stderr, "can't write %s\n", jsonPath.c_str());
+    return 1;
 }

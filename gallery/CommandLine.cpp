@@ -101,7 +101,7 @@ bool CommandLine::lacksDisplay() const
     // Asked once, before the platform is chosen: that choice itself sets the third variable.
     static const bool lacking = qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
         && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
-    return lacking;
+    return lacking || m_bDisplayRefused;
 }
 
 bool CommandLine::wantsOffscreen() const

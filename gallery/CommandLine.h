@@ -22,6 +22,7 @@ public:
 
     Mode mode() const;
     bool lacksDisplay() const; ///< there is no display and no platform was chosen
+    void setDisplayRefused() { m_bDisplayRefused = true; } ///< a display is named, but can't be reached
     bool wantsOffscreen() const; ///< nothing is to be shown, and the user chose no platform
     QString error() const { return m_error; }
     QString information() const; ///< the text of --help, --version or --list
@@ -47,6 +48,7 @@ private:
     QCommandLineOption m_helpOption;
     QCommandLineOption m_versionOption;
     bool m_bParsed = false;
+    bool m_bDisplayRefused = false;
     QString m_error;
     QString m_page;
     QString m_skin;

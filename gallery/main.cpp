@@ -49,11 +49,19 @@ int main(int argc, char *argv[])
 {
     CommandLine line;
     line.parse(argumentList(argc, argv));
-    if (line.wantsOffscreen())
+    const bool platformChosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+    const bool wantsOffscreen = line.wantsOffscreen();
+    if (wantsOffscreen)
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    else if (!platformChosen)
+        // Tried in turn: the display that is named may be one of yesterday's session.
+        qputenv("QT_QPA_PLATFORM",
+            qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? "xcb;offscreen" : "wayland;xcb;offscreen");
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
+    if (!platformChosen && !wantsOffscreen && QGuiApplication::platformName() == QLatin1String("offscreen"))
+        line.setDisplayRefused();
     setUpApplication();
     line.parse(QCoreApplication::arguments());
 

@@ -70,10 +70,9 @@ void CustomObject::cDrawCheckBox(
     const Custom::ItemStatus status = cGetItemStatus(option->state);
     const QString suffix = ControlQueries::indicatorSuffix(widget, checkState(option->state));
     option->rect = rect;
-    // Takes effect on the control itself. Unchanged, it would only cost events.
-    const QFont font = cFont(status, {});
-    if (font != widget->font() || font.resolve() != widget->font().resolve())
-        widget->setFont(font);
+    // Takes effect on the control itself, which has it already unless it is painted for another object.
+    if (widget != d->widget)
+        widget->setFont(cFont(status, {}));
 
     const QStringList subs = suffix.isEmpty() ? QStringList() : QStringList(suffix);
     const QRect indicator = drawIndicator(type, painter, button, widget, d->resolved(status, subs)->backgroundImage);

@@ -153,8 +153,9 @@ void Custom::removeChildLayoutItem(QLayout *layout, QLayout *child)
         return;
     layout->removeItem(child);
     for (int i = 0; i < layout->count(); ++i) {
-        if (QLayout *nested = layout->itemAt(i)->layout())
-            removeChildLayoutItem(nested, child);
+        QLayoutItem *item = layout->itemAt(i);
+        if (item && item->layout())
+            removeChildLayoutItem(item->layout(), child);
     }
 }
 

@@ -77,6 +77,11 @@ enum ObjectParameter : int {
 };
 Q_ENUM_NS(ObjectParameter)
 
+constexpr ObjectParameter operator|(ObjectParameter a, ObjectParameter b)
+{
+    return static_cast<ObjectParameter>(static_cast<int>(a) | static_cast<int>(b));
+}
+
 /// The selectors that every control may use.
 enum CommonStyleSelector : int { Default = 0, GrayWhite = 1, DarkBlack = 2 };
 Q_ENUM_NS(CommonStyleSelector)

@@ -142,7 +142,8 @@ public:
     /// \{
     /// To be called from customEvent(): on a skin change drops the document's values and updates the host.
     void cCustomEvent(QEvent *event);
-    /// To be called from resizeEvent(): gives the host a rounded window mask when ParamBorderRadius is set.
+    /// To be called from resizeEvent(): gives the host a rounded window mask when ParamBorderRadius is set. Radii that
+    /// change later reach the mask at the next resize.
     void cResizeEvent();
     /// Called after each cSetAttributeValue(); does nothing here.
     virtual void cNotifyUpdateValue(const QString &attribute, const QString &value, Custom::ItemStatus status);

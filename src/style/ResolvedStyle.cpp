@@ -3,6 +3,12 @@
 #include "style/CustomObject_p.h"
 #include "style/CustomStyleSheetData_p.h"
 
+namespace {
+
+constexpr std::size_t kMaxOthers = 64;
+
+} // namespace
+
 ResolvedStyle::ResolvedStyle(const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs)
     : background(data.getValue(QStringLiteral("BackgroundColor"), status, subs)),
       baseBackgroundImage(data.getValue(QStringLiteral("BaseBackgroundImage"), status, subs)),
@@ -93,6 +99,9 @@ std::shared_ptr<const ResolvedStyle> ResolvedStyles::get(
         if (entry.status == asked && entry.subs == subs)
             return entry.style;
     }
+    // A painter that makes up its sub-selectors as it goes must not pile them up here.
+    if (m_lstOthers.size() >= kMaxOthers)
+        m_lstOthers.clear();
     m_lstOthers.push_back({ asked, subs, std::make_shared<ResolvedStyle>(data, asked, subs) });
     return m_lstOthers.back().style;
 }

@@ -24,8 +24,8 @@ const QLatin1String s_strSeparator("##");
 
 // A document nested deeper than this would exhaust the stack of the XML library, which walks it by recursion.
 constexpr int kMaxElementDepth = 512;
-// A short document can grow without bounds by the entities that it declares itself; honest ones use a few.
-constexpr int kMaxEntities = 1000;
+// A short document can grow without bounds by the entities that it declares itself.
+constexpr int kMaxEntities = 20000;
 
 quint64 g_nRevision = 1;
 

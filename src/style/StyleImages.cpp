@@ -114,6 +114,8 @@ private:
         const QPixmap base = StyleImages::pixmap(m_strPath);
         const bool scalable = m_strPath.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive)
             || m_strPath.endsWith(QLatin1String(".svgz"), Qt::CaseInsensitive);
+        if (m_strPath.contains(QChar(QChar::Null)))
+            return QIcon();
         if (base.isNull() || scalable)
             return QIcon(m_strPath);
         QIcon result(base);

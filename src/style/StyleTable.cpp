@@ -17,6 +17,9 @@ Names names(const QString &className, const QString &selector, const QString &pa
     return qMakePair(className, qMakePair(selector, parentClassName));
 }
 
+// Names can be made up at will; a table is made anew where it was dropped.
+constexpr int kMaxKept = 1024;
+
 struct Caches
 {
     QHash<Names, std::shared_ptr<StyleTable>> tables;
@@ -74,6 +77,8 @@ QMap<QString, QString> Custom::getAttrMap(
     if (!classNode)
         return {};
     const QString equal = data->equalSelectors.value(className.toLower() + QLatin1String("##") + selector, selector);
+    if (caches().attrMaps.size() >= kMaxKept)
+        caches().attrMaps.clear();
     return *caches().attrMaps.insert(key, collect(*classNode, equal));
 }
 
@@ -115,6 +120,8 @@ std::shared_ptr<StyleTable> StyleTable::get(
     if (const std::shared_ptr<StyleTable> known = caches().tables.value(key))
         return known;
     const auto table = std::make_shared<StyleTable>(className, selector, parentClassName);
+    if (caches().tables.size() >= kMaxKept)
+        caches().tables.clear();
     caches().tables.insert(key, table);
     return table;
 }
