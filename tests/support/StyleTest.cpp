@@ -125,6 +125,12 @@ QVector<double> StyleTest::numbers(const QString &text)
     return result;
 }
 
+QRect StyleTest::rect(const QString &text)
+{
+    const QVector<double> n = numbers(text);
+    return n.isEmpty() ? QRect() : QRectF(n[0], n[1], n[2], n[3]).toRect();
+}
+
 void StyleTest::init()
 {
     m_pDir = std::make_unique<QTemporaryDir>();

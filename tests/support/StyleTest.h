@@ -3,6 +3,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QMetaEnum>
 #include <QtCore/QObject>
+#include <QtCore/QRect>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QColor>
 #include <QtTest/QtTest>
@@ -42,6 +43,8 @@ public:
     static void addRows(const QString &file);
     /// The numbers in a text, whatever stands between them.
     static QVector<double> numbers(const QString &text);
+    /// Left, top, width and height; the null rectangle for an empty text.
+    static QRect rect(const QString &text);
     /// -1 for a word that is no enumerator.
     template <typename Enum>
     static Enum enumValue(const QString &word)
