@@ -83,16 +83,11 @@ std::unique_ptr<QAbstractButton> made(const QString &control)
     return std::make_unique<Button>();
 }
 
-QStyleOptionButton buttonOption(const QAbstractButton &button, const QString &state = QStringLiteral("enabled"))
+QStyleOptionButton buttonOption(const QAbstractButton &button, const QString &state = QStringLiteral("1"))
 {
     QStyleOptionButton option;
     option.initFrom(&button);
-    option.state = QStyle::State_None;
-    const QHash<QString, QStyle::StateFlag> states{ { QStringLiteral("enabled"), QStyle::State_Enabled },
-        { QStringLiteral("sunken"), QStyle::State_Sunken }, { QStringLiteral("hover"), QStyle::State_MouseOver },
-        { QStringLiteral("on"), QStyle::State_On }, { QStringLiteral("off"), QStyle::State_Off } };
-    for (const QString &word : state.split(QLatin1Char(' ')))
-        option.state |= states.value(word, QStyle::State_None);
+    option.state = QStyle::State(state.section(QLatin1Char(' '), 0, 0).toInt(nullptr, 16));
     option.direction = state.contains(QLatin1String("rtl")) ? Qt::RightToLeft : Qt::LeftToRight;
     option.text = button.text();
     option.icon = button.icon();
@@ -150,11 +145,9 @@ void ButtonLayoutTest::maskHasQuadraticCorners()
     for (int i = 0; i < path.elementCount(); ++i)
         points += QStringLiteral("%1,%2").arg(path.elementAt(i).x, 0, 'f', 3).arg(path.elementAt(i).y, 0, 'f', 3);
     QCOMPARE(points.join(QLatin1Char(' ')), fields[2]);
-    for (int i = 0; i < 2; ++i) { // the second time it is the shared one
-        const QRegion mask = RoundedMask::region(box.size(), radii);
-        QCOMPARE(mask.boundingRect(), box);
-        QVERIFY(mask.contains(box.center()) && !mask.contains(box.topLeft()) == (radii[0] > 1));
-    }
+    const QRegion mask = RoundedMask::region(box.size(), radii);
+    QCOMPARE(mask.boundingRect(), box);
+    QVERIFY(mask.contains(box.center()) && !mask.contains(box.bottomRight()));
 }
 
 void ButtonLayoutTest::maskFollowsTheRadii()
@@ -237,15 +230,12 @@ void ButtonLayoutTest::sizes()
     }
     QStyleOptionButton option = buttonOption(*button);
     const QFontMetrics metrics(dynamic_cast<CustomObject *>(button.get())->cFont(Custom::Normal));
-    QSize size = metrics.size(Qt::TextShowMnemonic, label.isEmpty() ? fields[4] : label);
+    QSize size = metrics.size(Qt::TextShowMnemonic, label.isEmpty() ? QStringLiteral("XXXX") : label);
     if (fields[0] != QLatin1String("PushButton")) // as a disabled text, which some styles etch by a pixel
         size = button->style()->itemTextRect(metrics, QRect(), Qt::TextShowMnemonic, false, label).size();
-    if (fields[4] == QLatin1String("style"))
-        size = button->style()->sizeFromContents(QStyle::CT_CheckBox, &option, size, button.get());
-    else if (fields[4] == QLatin1String("none"))
-        size = QSize(0, 0);
-    else if (fields[4] == QLatin1String("width"))
-        size.setHeight(0);
+    const QVector<double> times = numbers(fields[4]);
+    size = times.isEmpty() ? button->style()->sizeFromContents(QStyle::CT_CheckBox, &option, size, button.get())
+                           : QSizeF(size.width() * times[0], size.height() * times[1]).toSize();
     QCOMPARE(button->sizeHint(), size + rect(QLatin1String("0 0 ") + fields[5]).size());
 }
 
@@ -289,9 +279,6 @@ void ButtonLayoutTest::indicatorSizeIsKeptForItsText()
     QCOMPARE(box.cSizeHint(&old), first);
     box.setText(QStringLiteral("Other"));
     QCOMPARE(box.sizeHint().height(), 90);
-    box.cSetAttributeValue(QStringLiteral("BackgroundImage"), picture(Qt::red, { 70, 80 }), Custom::Normal,
-        { QStringLiteral("checked") }); // a change of its own values
-    QCOMPARE(box.sizeHint().height(), 80);
 }
 
 ZANTHIC_TEST_MAIN(ButtonLayoutTest)
