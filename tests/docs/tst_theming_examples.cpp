@@ -27,7 +27,7 @@ struct Block
     QString language;
     QString text;
     QString file;
-    QString expectations; // one a line
+    QStringList expectations;
     bool broken = false;
 };
 
@@ -44,44 +44,28 @@ public:
     }
 };
 
-template <typename Enum>
-int enumValue(const QString &word)
+// The examples of each section, by its heading.
+QMap<QString, Section> readSections(const QString &document)
 {
-    return QMetaEnum::fromType<Enum>().keyToValue(word.toLatin1().constData());
-}
-
-// A comment says something of the block below it.
-void readComment(const QString &line, Block *next)
-{
-    const QString comment = line.startsWith(QLatin1String("<!-- ")) ? line.mid(5, line.size() - 9) : QString();
-    if (comment.startsWith(QLatin1String("file: ")))
-        next->file = comment.mid(6);
-    else if (comment == QLatin1String("broken"))
-        next->broken = true;
-    else if (comment.startsWith(QLatin1String("expect")))
-        next->expectations += comment + QLatin1Char('\n');
-}
-
-QVector<QPair<QString, Section>> readSections(const QString &document)
-{
-    QVector<QPair<QString, Section>> sections{ { QStringLiteral("Introduction"), Section() } };
+    static const QRegularExpression form(
+        QStringLiteral("^## (.+)$|^<!-- (?:file: (.+)|(broken)|(expect.+)) -->$|^```(.+)\\n((?:(?!```).*\\n)*)```$"),
+        QRegularExpression::MultilineOption);
+    QMap<QString, Section> sections;
+    QString heading = QStringLiteral("Introduction");
     Block next;
-    bool inBlock = false;
-    for (const QString &line : document.split(QLatin1Char('\n'))) {
-        const bool fence = line.startsWith(QLatin1String("```"));
-        if (inBlock && fence) {
-            sections.last().second.append(next);
+    for (auto it = form.globalMatch(document); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        heading = match.capturedLength(1) > 0 ? match.captured(1) : heading;
+        next.file += match.captured(2);
+        next.broken = next.broken || match.capturedLength(3) > 0;
+        if (match.capturedLength(4) > 0)
+            next.expectations += match.captured(4);
+        next.language = match.captured(5);
+        next.text = match.captured(6);
+        if (next.language == QLatin1String("xml") || next.language == QLatin1String("css"))
+            sections[heading].append(next);
+        if (!next.language.isEmpty())
             next = Block();
-        } else if (inBlock) {
-            next.text += line + QLatin1Char('\n');
-        } else if (fence) {
-            next.language = line.mid(3);
-        } else if (line.startsWith(QLatin1String("## "))) {
-            sections.append({ line.mid(3), Section() });
-        } else {
-            readComment(line, &next);
-        }
-        inBlock = inBlock != fence;
     }
     return sections;
 }
@@ -99,28 +83,26 @@ QString brushText(const QBrush &brush)
     if (brush.style() != Qt::LinearGradientPattern)
         return brush.color().isValid() ? brush.color().name(QColor::HexArgb) : QStringLiteral("invalid");
     const auto gradient = static_cast<const QLinearGradient *>(brush.gradient());
+    const QPointF a = gradient->start();
+    const QPointF b = gradient->finalStop();
     QStringList stops;
     for (const QGradientStop &stop : gradient->stops())
         stops += QStringLiteral("%1 %2").arg(stop.first).arg(stop.second.name(QColor::HexArgb));
-    return QStringLiteral("(%1,%2)-(%3,%4) %5")
-        .arg(gradient->start().x())
-        .arg(gradient->start().y())
-        .arg(gradient->finalStop().x())
-        .arg(gradient->finalStop().y())
-        .arg(stops.join(QLatin1String(", ")));
+    const QString text = QStringLiteral("(%1,%2)-(%3,%4) ").arg(a.x()).arg(a.y()).arg(b.x()).arg(b.y());
+    return text + stops.join(QLatin1String(", "));
 }
 
 QString attributeText(const QString &question)
 {
     static const QRegularExpression form(QStringLiteral("^(\\S+) (\\S+) ([^\\s\\[]+)(?:\\[(\\S+)\\])?(?: (\\w+))?$"));
     const QRegularExpressionMatch match = form.match(question);
-    const QString status = match.captured(5).isEmpty() ? QStringLiteral("Normal") : match.captured(5);
-    if (!match.hasMatch() || enumValue<Custom::ItemStatus>(status) < 0)
+    const QString word = match.captured(5).isEmpty() ? QStringLiteral("Normal") : match.captured(5);
+    const auto status = StyleTest::enumValue<Custom::ItemStatus>(word);
+    if (!match.hasMatch() || status < 0)
         return QStringLiteral("can't be read: ") + question;
     const QStringList subs = match.captured(4).split(QLatin1Char(','), Qt::SkipEmptyParts);
     const Control control(match.captured(1), match.captured(2));
-    const auto itemStatus = Custom::ItemStatus(enumValue<Custom::ItemStatus>(status));
-    const QString value = control.cAttributeValue(match.captured(3), itemStatus, subs);
+    const QString value = control.cAttributeValue(match.captured(3), status, subs);
     return value.isEmpty() ? QStringLiteral("\"\"") : value;
 }
 
@@ -143,9 +125,9 @@ QString answer(const QString &kind, const QString &question)
     if (kind == QLatin1String("expect-brush"))
         return brushText(Custom::string2Brush(question, kBox));
     if (kind == QLatin1String("expect-family"))
-        return Custom::globalFontFamily(Custom::Language(enumValue<Custom::Language>(question)));
+        return Custom::globalFontFamily(StyleTest::enumValue<Custom::Language>(question));
     if (kind == QLatin1String("expect-sheet"))
-        return Custom::styleSheet(Custom::StyleSheetType(enumValue<Custom::StyleSheetType>(question)));
+        return Custom::styleSheet(StyleTest::enumValue<Custom::StyleSheetType>(question));
     return QStringLiteral("unknown kind ") + kind;
 }
 
@@ -183,18 +165,9 @@ void TestThemingExamples::examplesHold_data()
 {
     QTest::addColumn<Section>("section");
     const auto sections = readSections(readFile(QStringLiteral(PROJECT_FOLDER "/docs/theming.md")));
-    int blocks = 0;
-    for (const auto &section : sections) {
-        Section examples;
-        for (const Block &block : section.second) {
-            if (block.language == QLatin1String("xml") || block.language == QLatin1String("css"))
-                examples.append(block);
-        }
-        blocks += examples.size();
-        if (!examples.isEmpty())
-            QTest::newRow(qPrintable(section.first)) << examples;
-    }
-    QVERIFY2(blocks >= 10, "the guide's examples aren't found");
+    QVERIFY2(sections.size() >= 5, "the guide's examples aren't found");
+    for (auto it = sections.cbegin(); it != sections.cend(); ++it)
+        QTest::newRow(qPrintable(it.key())) << it.value();
 }
 
 void TestThemingExamples::examplesHold()
@@ -202,14 +175,11 @@ void TestThemingExamples::examplesHold()
     QFETCH(Section, section);
     m_mapFiles.clear();
     QVERIFY(ZanthicTheme::applySkin(QStringLiteral("light")));
-    for (const Block &block : qAsConst(section)) {
+    for (const Block &block : qAsConst(section))
         take(block);
-        if (QTest::currentTestFailed())
-            return;
-    }
     // After the last block, so that a file may stand above the document that names it.
     for (const Block &block : qAsConst(section)) {
-        for (const QString &line : block.expectations.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        for (const QString &line : block.expectations)
             checkExpectation(line);
         QVERIFY2(block.language != QLatin1String("xml") || !block.expectations.isEmpty(), qPrintable(block.text));
     }

@@ -3,6 +3,8 @@
 #include "style/CustomPrivate_p.h"
 #include "style/CustomStyleSheetData_p.h"
 
+#include <QtCore/QRegularExpression>
+#include <QtGui/QImage>
 #include <QtWidgets/QApplication>
 
 namespace {
@@ -66,6 +68,67 @@ QString StyleTest::addColors(const QByteArray &colors)
 QByteArray StyleTest::classXml(const QByteArray &className, const QByteArray &selector, const QByteArray &attributes)
 {
     return "<Class Name='" + className + "'><Selector Name='" + selector + "'>" + attributes + "</Selector></Class>";
+}
+
+QByteArray StyleTest::attributesXml(const QString &attributes)
+{
+    static const QRegularExpression blank(QStringLiteral("\\s+(?=[\\w:]+=)"));
+    static const QRegularExpression image(QStringLiteral("^@([a-z]+)(\\d+)x(\\d+)$"));
+    QString result;
+    for (const QString &attribute : attributes.split(blank, Qt::SkipEmptyParts)) {
+        const QString name = attribute.section(QLatin1Char('='), 0, 0);
+        QString value = attribute.section(QLatin1Char('='), 1);
+        const auto match = image.match(value);
+        if (match.hasMatch())
+            value = picture(match.captured(1), { match.captured(2).toInt(), match.captured(3).toInt() });
+        result += QStringLiteral("<%1>%2</%1>").arg(name, value);
+    }
+    return result.toUtf8();
+}
+
+QString StyleTest::addStyle(const QByteArray &className, const QString &attributes, const QByteArray &selector)
+{
+    return addDocument(classXml(className, selector, attributesXml(attributes)));
+}
+
+QString StyleTest::picture(const QColor &color, const QSize &size)
+{
+    const QString path = scratchFile("", QStringLiteral(".png"));
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(color);
+    if (!image.save(path))
+        qFatal("can't write a picture");
+    return path;
+}
+
+void StyleTest::addRows(const QString &file)
+{
+    QTest::addColumn<QStringList>("fields");
+    QFile data(QStringLiteral(ZANTHIC_TEST_DATA "/") + file);
+    QVERIFY2(data.open(QIODevice::ReadOnly), qPrintable(file));
+    for (const QString &line : QString::fromUtf8(data.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        QStringList fields = line.split(QLatin1Char('|'));
+        for (QString &field : fields)
+            field = field.trimmed();
+        const QString name = fields.takeFirst();
+        if (!name.startsWith(QLatin1Char('#')))
+            QTest::newRow(qPrintable(name)) << fields;
+    }
+}
+
+QVector<double> StyleTest::numbers(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("-?\\d+(\\.\\d+)?"));
+    QVector<double> result;
+    for (auto it = form.globalMatch(text); it.hasNext();)
+        result += it.next().captured().toDouble();
+    return result;
+}
+
+QRect StyleTest::rect(const QString &text)
+{
+    const QVector<double> n = numbers(text);
+    return n.isEmpty() ? QRect() : QRectF(n[0], n[1], n[2], n[3]).toRect();
 }
 
 void StyleTest::init()

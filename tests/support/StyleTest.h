@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QMetaEnum>
 #include <QtCore/QObject>
+#include <QtCore/QRect>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QColor>
 #include <QtTest/QtTest>
 
 #include <memory>
@@ -28,6 +31,26 @@ public:
     QString addColors(const QByteArray &colors);
     /// "<Selector Name='...'>...</Selector>" in a class of that name.
     static QByteArray classXml(const QByteArray &className, const QByteArray &selector, const QByteArray &attributes);
+    /// The elements of attributes such as "FontSize=9 Icon=@red16x12", where @ stands for the path of a new picture.
+    QByteArray attributesXml(const QString &attributes);
+    /// A document that gives a class these attributes, written as for attributesXml().
+    QString addStyle(const QByteArray &className, const QString &attributes, const QByteArray &selector = "Default");
+    /// The path of a new picture in one colour.
+    QString picture(const QColor &color, const QSize &size = QSize(16, 16));
+
+    /// Fills the test's only column, "fields", with one row a line of a file in tests/data: a name and the fields,
+    /// separated by bars. Lines that begin with "#" are comments.
+    static void addRows(const QString &file);
+    /// The numbers in a text, whatever stands between them.
+    static QVector<double> numbers(const QString &text);
+    /// Left, top, width and height; the null rectangle for an empty text.
+    static QRect rect(const QString &text);
+    /// -1 for a word that is no enumerator.
+    template <typename Enum>
+    static Enum enumValue(const QString &word)
+    {
+        return Enum(QMetaEnum::fromType<Enum>().keyToValue(word.toLatin1().constData()));
+    }
 
 private Q_SLOTS:
     void init();
