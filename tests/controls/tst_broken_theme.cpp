@@ -89,7 +89,7 @@ class BrokenThemeTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void valuesDoNoHarm_data() { addRows(QStringLiteral("controls/hostile.txt")); }
+    void valuesDoNoHarm_data() { addRowsOf(QStringLiteral("controls/hostile.txt")); }
     void valuesDoNoHarm();
     void emptyClassesDoNoHarm();
     void hugeDocumentIsReadToItsEnd();

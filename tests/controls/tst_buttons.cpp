@@ -69,12 +69,12 @@ private Q_SLOTS:
     void selectorsAreNamedAsTheirEnumerators();
     void startWithTheirFonts();
     void iconsOfTheirOwnAndOfAStatus();
-    void indicatorIsWhatReacts_data() { addRows(QStringLiteral("controls/hits.txt")); }
+    void indicatorIsWhatReacts_data() { addRowsOf(QStringLiteral("controls/hits.txt")); }
     void indicatorIsWhatReacts();
     void signalTellsOfTheUserOnly();
     void pushButtonFollowsItsStatus();
     void styleSheetMakesAPlainControl();
-    void guardIgnoresAQuickSecondClick_data() { addRows(QStringLiteral("controls/clicks.txt")); }
+    void guardIgnoresAQuickSecondClick_data() { addRowsOf(QStringLiteral("controls/clicks.txt")); }
     void guardIgnoresAQuickSecondClick();
     void guardNumbersAreNotReused();
     void eventsGoOnToTheParent();

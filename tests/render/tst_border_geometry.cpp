@@ -41,15 +41,15 @@ class BorderGeometryTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void radiiThatDoNotFitAreDropped_data() { addRows(QStringLiteral("render/radii.txt")); }
+    void radiiThatDoNotFitAreDropped_data() { addRowsOf(QStringLiteral("render/radii.txt")); }
     void radiiThatDoNotFitAreDropped();
-    void clipRunsThroughTheMiddleOfTheBorder_data() { addRows(QStringLiteral("render/clips.txt")); }
+    void clipRunsThroughTheMiddleOfTheBorder_data() { addRowsOf(QStringLiteral("render/clips.txt")); }
     void clipRunsThroughTheMiddleOfTheBorder();
-    void edgeIsDrawnByStyle_data() { addRows(QStringLiteral("render/edges.txt")); }
+    void edgeIsDrawnByStyle_data() { addRowsOf(QStringLiteral("render/edges.txt")); }
     void edgeIsDrawnByStyle();
-    void cornersAreStrokedByStyle_data() { addRows(QStringLiteral("render/corners.txt")); }
+    void cornersAreStrokedByStyle_data() { addRowsOf(QStringLiteral("render/corners.txt")); }
     void cornersAreStrokedByStyle();
-    void edgesMeet_data() { addRows(QStringLiteral("render/borders.txt")); }
+    void edgesMeet_data() { addRowsOf(QStringLiteral("render/borders.txt")); }
     void edgesMeet();
 };
 

@@ -91,14 +91,14 @@ class BoxTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void layersAndPlaces_data() { addRows(QStringLiteral("render/boxes.txt")); }
+    void layersAndPlaces_data() { addRowsOf(QStringLiteral("render/boxes.txt")); }
     void layersAndPlaces();
-    void edgesOverrideAllEdge_data() { addRows(QStringLiteral("render/parameters.txt")); }
+    void edgesOverrideAllEdge_data() { addRowsOf(QStringLiteral("render/parameters.txt")); }
     void edgesOverrideAllEdge();
-    void borderStrips_data() { addRows(QStringLiteral("render/strips.txt")); }
+    void borderStrips_data() { addRowsOf(QStringLiteral("render/strips.txt")); }
     void borderStrips();
     void colorRectanglesStayInsideTheRoundedOutline();
-    void picturesEqualPainting_data() { addRows(QStringLiteral("render/painters.txt")); }
+    void picturesEqualPainting_data() { addRowsOf(QStringLiteral("render/painters.txt")); }
     void picturesEqualPainting();
 };
 

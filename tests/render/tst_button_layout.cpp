@@ -107,15 +107,15 @@ class ButtonLayoutTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void iconAndText_data() { addRows(QStringLiteral("render/icons.txt")); }
+    void iconAndText_data() { addRowsOf(QStringLiteral("render/icons.txt")); }
     void iconAndText();
-    void maskHasQuadraticCorners_data() { addRows(QStringLiteral("render/masks.txt")); }
+    void maskHasQuadraticCorners_data() { addRowsOf(QStringLiteral("render/masks.txt")); }
     void maskHasQuadraticCorners();
     void maskFollowsTheRadii();
-    void contents_data() { addRows(QStringLiteral("render/contents.txt")); }
+    void contents_data() { addRowsOf(QStringLiteral("render/contents.txt")); }
     void contents();
     void otherOptionsPaintNothingAndOtherTypesTheBox();
-    void sizes_data() { addRows(QStringLiteral("render/sizes.txt")); }
+    void sizes_data() { addRowsOf(QStringLiteral("render/sizes.txt")); }
     void sizes();
     void pushButtonSizeIsKeptForAnEmptyText();
     void indicatorSizeIsKeptForItsText();

@@ -101,7 +101,7 @@ QString StyleTest::picture(const QColor &color, const QSize &size)
     return path;
 }
 
-void StyleTest::addRows(const QString &file)
+void StyleTest::addRowsOf(const QString &file)
 {
     QTest::addColumn<QStringList>("fields");
     QFile data(QStringLiteral(ZANTHIC_TEST_DATA "/") + file);

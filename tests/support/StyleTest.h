@@ -40,7 +40,7 @@ public:
 
     /// Fills the test's only column, "fields", with one row a line of a file in tests/data: a name and the fields,
     /// separated by bars. Lines that begin with "#" are comments.
-    static void addRows(const QString &file);
+    static void addRowsOf(const QString &file);
     /// The numbers in a text, whatever stands between them.
     static QVector<double> numbersIn(const QString &text);
     /// Left, top, width and height; the null rectangle for an empty text.
