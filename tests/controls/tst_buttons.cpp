@@ -69,12 +69,12 @@ private Q_SLOTS:
     void selectorsAreNamedAsTheirEnumerators();
     void startWithTheirFonts();
     void iconsOfTheirOwnAndOfAStatus();
-    void indicatorIsWhatReacts_data() { addRows(QStringLiteral("controls/hits.txt")); }
+    void indicatorIsWhatReacts_data() { addRowsOf(QStringLiteral("controls/hits.txt")); }
     void indicatorIsWhatReacts();
     void signalTellsOfTheUserOnly();
     void pushButtonFollowsItsStatus();
     void styleSheetMakesAPlainControl();
-    void guardIgnoresAQuickSecondClick_data() { addRows(QStringLiteral("controls/clicks.txt")); }
+    void guardIgnoresAQuickSecondClick_data() { addRowsOf(QStringLiteral("controls/clicks.txt")); }
     void guardIgnoresAQuickSecondClick();
     void guardNumbersAreNotReused();
     void eventsGoOnToTheParent();
@@ -130,8 +130,8 @@ void ButtonsTest::indicatorIsWhatReacts()
     QAbstractButton *button = window.buttons[fields[0] == QLatin1String("CheckBox") ? 1 : 2];
     button->setStyleSheet(fields[2]);
     button->setText(fields[3]);
-    button->setLayoutDirection(enumValue<Qt::LayoutDirection>(fields[4]));
-    click(button, QPointF(numbers(fields[5])[0], numbers(fields[5])[1]).toPoint());
+    button->setLayoutDirection(enumerator<Qt::LayoutDirection>(fields[4]));
+    click(button, QPointF(numbersIn(fields[5])[0], numbersIn(fields[5])[1]).toPoint());
     QCOMPARE(QString::number(button->isChecked()), fields[6]);
 }
 
@@ -205,7 +205,7 @@ void ButtonsTest::styleSheetMakesAPlainControl()
 void ButtonsTest::guardIgnoresAQuickSecondClick()
 {
     QFETCH(QStringList, fields);
-    const QVector<double> n = numbers(fields[0]);
+    const QVector<double> n = numbersIn(fields[0]);
     const bool guarded = n[0] > 0;
     const int clicks = int(n[2]);
     // A machine that is too busy for 50 ms gets further tries.

@@ -97,7 +97,7 @@ QString attributeText(const QString &question)
     static const QRegularExpression form(QStringLiteral("^(\\S+) (\\S+) ([^\\s\\[]+)(?:\\[(\\S+)\\])?(?: (\\w+))?$"));
     const QRegularExpressionMatch match = form.match(question);
     const QString word = match.captured(5).isEmpty() ? QStringLiteral("Normal") : match.captured(5);
-    const auto status = StyleTest::enumValue<Custom::ItemStatus>(word);
+    const auto status = StyleTest::enumerator<Custom::ItemStatus>(word);
     if (!match.hasMatch() || status < 0)
         return QStringLiteral("can't be read: ") + question;
     const QStringList subs = match.captured(4).split(QLatin1Char(','), Qt::SkipEmptyParts);
@@ -125,9 +125,9 @@ QString answer(const QString &kind, const QString &question)
     if (kind == QLatin1String("expect-brush"))
         return brushText(Custom::string2Brush(question, kBox));
     if (kind == QLatin1String("expect-family"))
-        return Custom::globalFontFamily(StyleTest::enumValue<Custom::Language>(question));
+        return Custom::globalFontFamily(StyleTest::enumerator<Custom::Language>(question));
     if (kind == QLatin1String("expect-sheet"))
-        return Custom::styleSheet(StyleTest::enumValue<Custom::StyleSheetType>(question));
+        return Custom::styleSheet(StyleTest::enumerator<Custom::StyleSheetType>(question));
     return QStringLiteral("unknown kind ") + kind;
 }
 

@@ -13,22 +13,22 @@ const QColor kDark(100, 0, 0);
 
 std::array<QSize, 4> sizes(const QString &text)
 {
-    const QVector<double> n = StyleTest::numbers(text);
+    const QVector<double> n = StyleTest::numbersIn(text);
     return { { { int(n[0]), int(n[1]) }, { int(n[2]), int(n[3]) }, { int(n[4]), int(n[5]) },
         { int(n[6]), int(n[7]) } } };
 }
 
 std::array<int, 4> widths(const QString &text)
 {
-    const QVector<double> n = StyleTest::numbers(text);
+    const QVector<double> n = StyleTest::numbersIn(text);
     return { { int(n[0]), int(n[1]), int(n[2]), int(n[3]) } };
 }
 
 // "x,y WxH START SPAN wWIDTH COLOUR STYLE", with angles in degrees.
 void drawArc(QPainter *painter, const QString &arc)
 {
-    const QVector<double> n = StyleTest::numbers(arc.section(QLatin1Char('#'), 0, 0));
-    const auto style = StyleTest::enumValue<Qt::PenStyle>(arc.section(QLatin1Char(' '), -1));
+    const QVector<double> n = StyleTest::numbersIn(arc.section(QLatin1Char('#'), 0, 0));
+    const auto style = StyleTest::enumerator<Qt::PenStyle>(arc.section(QLatin1Char(' '), -1));
     const QColor color(arc.section(QLatin1Char(' '), -2, -2));
     painter->setPen(QPen(color, n[6], style, Qt::SquareCap, Qt::BevelJoin));
     painter->drawArc(QRectF(n[0], n[1], n[2], n[3]), int(n[4] * 16), int(n[5] * 16));
@@ -41,15 +41,15 @@ class BorderGeometryTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void radiiThatDoNotFitAreDropped_data() { addRows(QStringLiteral("render/radii.txt")); }
+    void radiiThatDoNotFitAreDropped_data() { addRowsOf(QStringLiteral("render/radii.txt")); }
     void radiiThatDoNotFitAreDropped();
-    void clipRunsThroughTheMiddleOfTheBorder_data() { addRows(QStringLiteral("render/clips.txt")); }
+    void clipRunsThroughTheMiddleOfTheBorder_data() { addRowsOf(QStringLiteral("render/clips.txt")); }
     void clipRunsThroughTheMiddleOfTheBorder();
-    void edgeIsDrawnByStyle_data() { addRows(QStringLiteral("render/edges.txt")); }
+    void edgeIsDrawnByStyle_data() { addRowsOf(QStringLiteral("render/edges.txt")); }
     void edgeIsDrawnByStyle();
-    void cornersAreStrokedByStyle_data() { addRows(QStringLiteral("render/corners.txt")); }
+    void cornersAreStrokedByStyle_data() { addRowsOf(QStringLiteral("render/corners.txt")); }
     void cornersAreStrokedByStyle();
-    void edgesMeet_data() { addRows(QStringLiteral("render/borders.txt")); }
+    void edgesMeet_data() { addRowsOf(QStringLiteral("render/borders.txt")); }
     void edgesMeet();
 };
 
@@ -72,11 +72,11 @@ void BorderGeometryTest::clipRunsThroughTheMiddleOfTheBorder()
 void BorderGeometryTest::edgeIsDrawnByStyle()
 {
     QFETCH(QStringList, fields);
-    const QVector<double> b = numbers(fields[0]);
-    const QVector<double> dw = numbers(fields[1]);
+    const QVector<double> b = numbersIn(fields[0]);
+    const QVector<double> dw = numbersIn(fields[1]);
     const QStringList shapes = Recorder::shapes([&](QPainter *painter) {
-        cDrawEdge(painter, b[0], b[1], b[2], b[3], dw[0], dw[1], enumValue<BorderEdge>(fields[2]),
-            enumValue<BorderStyle>(fields[3]), kDark);
+        cDrawEdge(painter, b[0], b[1], b[2], b[3], dw[0], dw[1], enumerator<BorderEdge>(fields[2]),
+            enumerator<BorderStyle>(fields[3]), kDark);
         QVERIFY(painter->pen() == QPen() && painter->brush() == QBrush()); // left as they were
     });
     QCOMPARE(shapes, fields[4].split(QLatin1String("; "), Qt::SkipEmptyParts));
@@ -85,11 +85,11 @@ void BorderGeometryTest::edgeIsDrawnByStyle()
 void BorderGeometryTest::cornersAreStrokedByStyle()
 {
     QFETCH(QStringList, fields);
-    const QVector<double> b = numbers(fields[0]);
-    const QVector<double> r = numbers(fields[1]);
+    const QVector<double> b = numbersIn(fields[0]);
+    const QVector<double> r = numbersIn(fields[1]);
     const QStringList shapes = Recorder::shapes([&](QPainter *painter) {
         cDrawRoundedCorners(painter, b[0], b[1], b[2], b[3], { r[0], r[1] }, { r[2], r[3] },
-            enumValue<BorderEdge>(fields[2]), enumValue<BorderStyle>(fields[3]), kDark);
+            enumerator<BorderEdge>(fields[2]), enumerator<BorderStyle>(fields[3]), kDark);
         QVERIFY(painter->pen() == QPen() && painter->brush() == QBrush());
     });
     const QStringList expected = Recorder::shapes([&](QPainter *painter) {
@@ -102,7 +102,7 @@ void BorderGeometryTest::cornersAreStrokedByStyle()
 void BorderGeometryTest::edgesMeet()
 {
     QFETCH(QStringList, fields);
-    const BorderStyle styles[] = { enumValue<BorderStyle>(fields[0]), BorderSolid, BorderSolid, BorderSolid };
+    const BorderStyle styles[] = { enumerator<BorderStyle>(fields[0]), BorderSolid, BorderSolid, BorderSolid };
     QBrush colors[4];
     for (int i = 0; i < 4; ++i) {
         const QString name = fields[2].section(QLatin1Char(' '), i, i);

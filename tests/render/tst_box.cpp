@@ -91,14 +91,14 @@ class BoxTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void layersAndPlaces_data() { addRows(QStringLiteral("render/boxes.txt")); }
+    void layersAndPlaces_data() { addRowsOf(QStringLiteral("render/boxes.txt")); }
     void layersAndPlaces();
-    void edgesOverrideAllEdge_data() { addRows(QStringLiteral("render/parameters.txt")); }
+    void edgesOverrideAllEdge_data() { addRowsOf(QStringLiteral("render/parameters.txt")); }
     void edgesOverrideAllEdge();
-    void borderStrips_data() { addRows(QStringLiteral("render/strips.txt")); }
+    void borderStrips_data() { addRowsOf(QStringLiteral("render/strips.txt")); }
     void borderStrips();
     void colorRectanglesStayInsideTheRoundedOutline();
-    void picturesEqualPainting_data() { addRows(QStringLiteral("render/painters.txt")); }
+    void picturesEqualPainting_data() { addRowsOf(QStringLiteral("render/painters.txt")); }
     void picturesEqualPainting();
 };
 
@@ -108,8 +108,8 @@ void BoxTest::layersAndPlaces()
     addStyle(
         "CustomFrame", fields[0].replace(QLatin1String("@nine"), QStringLiteral(ZANTHIC_TEST_DATA "/render/nine.xpm")));
     CustomFrame box;
-    const auto status = enumValue<ItemStatus>(fields[1]);
-    const QRect place = fields[2].isEmpty() ? kRect : rect(fields[2]);
+    const auto status = enumerator<ItemStatus>(fields[1]);
+    const QRect place = fields[2].isEmpty() ? kRect : rectIn(fields[2]);
     const QPen pen(Qt::yellow, 3);
     QString returned;
     QImage image;
@@ -125,7 +125,7 @@ void BoxTest::layersAndPlaces()
     }
     QCOMPARE(returned, fields[3]);
     for (const QString &pixel : fields[4].split(QLatin1String("; "))) {
-        const QVector<double> at = numbers(pixel);
+        const QVector<double> at = numbersIn(pixel);
         const QColor color(pixel.section(QLatin1Char(' '), 1));
         const QString found = Probe::colorAt(image, int(at[0]), int(at[1]));
         QVERIFY2(found == color.name(QColor::HexArgb), qPrintable(pixel + QLatin1String(" is ") + found));
@@ -137,14 +137,14 @@ void BoxTest::edgesOverrideAllEdge()
     QFETCH(QStringList, fields);
     addStyle("CustomFrame", fields[0]);
     CustomFrame box;
-    const auto status = enumValue<ItemStatus>(fields[1]);
+    const auto status = enumerator<ItemStatus>(fields[1]);
     std::array<int, 4> widths;
     std::array<QSize, 4> radii;
     std::array<QBrush, 4> colors;
     box.cGetBorderParameter(widths.data(), radii.data(), colors.data(), kRect, status, {});
     for (int i = 0; i < 4; ++i) {
-        const int radius = int(numbers(fields[3])[i]);
-        QCOMPARE(widths[i], int(numbers(fields[2])[i]));
+        const int radius = int(numbersIn(fields[3])[i]);
+        QCOMPARE(widths[i], int(numbersIn(fields[2])[i]));
         QCOMPARE(radii[i], QSize(radius, radius));
         QCOMPARE(brushText(colors[i]), fields[4].section(QLatin1Char(' '), i, i));
     }
@@ -156,9 +156,9 @@ void BoxTest::edgesOverrideAllEdge()
 void BoxTest::borderStrips()
 {
     QFETCH(QStringList, fields);
-    const QVector<double> edge = numbers(fields[0]);
+    const QVector<double> edge = numbersIn(fields[0]);
     const QRect box(10, 20, 100, 50);
-    QCOMPARE(CustomObjectData::createBorderRect(BorderEdge(int(edge[0])), int(edge[1]), box), rect(fields[1]));
+    QCOMPARE(CustomObjectData::createBorderRect(BorderEdge(int(edge[0])), int(edge[1]), box), rectIn(fields[1]));
 }
 
 void BoxTest::colorRectanglesStayInsideTheRoundedOutline()
@@ -196,13 +196,13 @@ void BoxTest::picturesEqualPainting()
 {
     QFETCH(QStringList, fields);
     const int scale = fields[1].toInt();
-    QImage background = ground(QSize(64, 64) * scale, enumValue<QImage::Format>(fields[0]));
+    QImage background = ground(QSize(64, 64) * scale, enumerator<QImage::Format>(fields[0]));
     background.setDevicePixelRatio(scale);
-    const QVector<double> m = numbers(fields[2]);
+    const QVector<double> m = numbersIn(fields[2]);
     const auto prepare = [&](QPainter *painter) {
         painter->setTransform({ m[0], m[1], m[2], m[3], m[4], m[5] });
         if (!fields[3].isEmpty())
-            painter->setClipRect(rect(fields[3]));
+            painter->setClipRect(rectIn(fields[3]));
         painter->setOpacity(fields[4].toDouble());
         painter->setCompositionMode(QPainter::CompositionMode(fields[5].toInt()));
         painter->setRenderHints(QPainter::RenderHints(fields[6].toInt()));

@@ -107,15 +107,15 @@ class ButtonLayoutTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void iconAndText_data() { addRows(QStringLiteral("render/icons.txt")); }
+    void iconAndText_data() { addRowsOf(QStringLiteral("render/icons.txt")); }
     void iconAndText();
-    void maskHasQuadraticCorners_data() { addRows(QStringLiteral("render/masks.txt")); }
+    void maskHasQuadraticCorners_data() { addRowsOf(QStringLiteral("render/masks.txt")); }
     void maskHasQuadraticCorners();
     void maskFollowsTheRadii();
-    void contents_data() { addRows(QStringLiteral("render/contents.txt")); }
+    void contents_data() { addRowsOf(QStringLiteral("render/contents.txt")); }
     void contents();
     void otherOptionsPaintNothingAndOtherTypesTheBox();
-    void sizes_data() { addRows(QStringLiteral("render/sizes.txt")); }
+    void sizes_data() { addRowsOf(QStringLiteral("render/sizes.txt")); }
     void sizes();
     void pushButtonSizeIsKeptForAnEmptyText();
     void indicatorSizeIsKeptForItsText();
@@ -125,17 +125,17 @@ void ButtonLayoutTest::iconAndText()
 {
     QFETCH(QStringList, fields);
     const auto result = PushButtonLayout::withIcon(
-        { rect(fields[0]), fields[1].toInt(), QSize(16, 12), QSize(30, 10), !fields[2].isEmpty() });
-    QCOMPARE(result.iconRect, rect(fields[3]));
-    QCOMPARE(result.textRect, rect(fields[4]));
+        { rectIn(fields[0]), fields[1].toInt(), QSize(16, 12), QSize(30, 10), !fields[2].isEmpty() });
+    QCOMPARE(result.iconRect, rectIn(fields[3]));
+    QCOMPARE(result.textRect, rectIn(fields[4]));
     QCOMPARE(result.flags, fields[5].toInt());
 }
 
 void ButtonLayoutTest::maskHasQuadraticCorners()
 {
     QFETCH(QStringList, fields);
-    const QRect box = rect(QLatin1String("0 0 ") + fields[0]);
-    const QVector<double> r = numbers(fields[1]);
+    const QRect box = rectIn(QLatin1String("0 0 ") + fields[0]);
+    const QVector<double> r = numbersIn(fields[1]);
     const RoundedMask::Radii radii{ { int(r[0]), int(r[1]), int(r[2]), int(r[3]) } };
     const QPainterPath path = RoundedMask::outline(box.size(), radii);
     QStringList points;
@@ -174,7 +174,7 @@ void ButtonLayoutTest::contents()
 {
     QFETCH(QStringList, fields);
     addStyle("Custom" + fields[0].toLatin1(), fields[1]);
-    const auto type = enumValue<Custom::CustomWidgetType>(QLatin1String("Widget") + fields[0]);
+    const auto type = enumerator<Custom::CustomWidgetType>(QLatin1String("Widget") + fields[0]);
     NotingStyle style;
     const auto button = made(fields[0]);
     button->setStyle(&style);
@@ -222,17 +222,17 @@ void ButtonLayoutTest::sizes()
     button->setText(label);
     if (!fields[2].isEmpty()) {
         button->setIcon(QIcon(picture(Qt::red)));
-        button->setIconSize(rect(QLatin1String("0 0 ") + fields[2]).size());
+        button->setIconSize(rectIn(QLatin1String("0 0 ") + fields[2]).size());
     }
     QStyleOptionButton option = buttonOption(*button);
     const QFontMetrics metrics(dynamic_cast<CustomObject *>(button.get())->cFont(Custom::Normal));
     QSize size = metrics.size(Qt::TextShowMnemonic, label.isEmpty() ? QStringLiteral("XXXX") : label);
     if (fields[0] != QLatin1String("PushButton")) // as a disabled text, which some styles etch by a pixel
         size = button->style()->itemTextRect(metrics, QRect(), Qt::TextShowMnemonic, false, label).size();
-    const QVector<double> times = numbers(fields[4]);
+    const QVector<double> times = numbersIn(fields[4]);
     size = times.isEmpty() ? button->style()->sizeFromContents(QStyle::CT_CheckBox, &option, size, button.get())
                            : QSizeF(size.width() * times[0], size.height() * times[1]).toSize();
-    QCOMPARE(button->sizeHint(), size + rect(QLatin1String("0 0 ") + fields[5]).size());
+    QCOMPARE(button->sizeHint(), size + rectIn(QLatin1String("0 0 ") + fields[5]).size());
 }
 
 void ButtonLayoutTest::pushButtonSizeIsKeptForAnEmptyText()

@@ -101,7 +101,7 @@ QString StyleTest::picture(const QColor &color, const QSize &size)
     return path;
 }
 
-void StyleTest::addRows(const QString &file)
+void StyleTest::addRowsOf(const QString &file)
 {
     QTest::addColumn<QStringList>("fields");
     QFile data(QStringLiteral(ZANTHIC_TEST_DATA "/") + file);
@@ -116,7 +116,7 @@ void StyleTest::addRows(const QString &file)
     }
 }
 
-QVector<double> StyleTest::numbers(const QString &text)
+QVector<double> StyleTest::numbersIn(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral("-?\\d+(\\.\\d+)?"));
     QVector<double> result;
@@ -125,9 +125,9 @@ QVector<double> StyleTest::numbers(const QString &text)
     return result;
 }
 
-QRect StyleTest::rect(const QString &text)
+QRect StyleTest::rectIn(const QString &text)
 {
-    const QVector<double> n = numbers(text);
+    const QVector<double> n = numbersIn(text);
     return n.isEmpty() ? QRect() : QRectF(n[0], n[1], n[2], n[3]).toRect();
 }
 

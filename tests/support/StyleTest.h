@@ -40,14 +40,14 @@ public:
 
     /// Fills the test's only column, "fields", with one row a line of a file in tests/data: a name and the fields,
     /// separated by bars. Lines that begin with "#" are comments.
-    static void addRows(const QString &file);
+    static void addRowsOf(const QString &file);
     /// The numbers in a text, whatever stands between them.
-    static QVector<double> numbers(const QString &text);
+    static QVector<double> numbersIn(const QString &text);
     /// Left, top, width and height; the null rectangle for an empty text.
-    static QRect rect(const QString &text);
+    static QRect rectIn(const QString &text);
     /// -1 for a word that is no enumerator.
     template <typename Enum>
-    static Enum enumValue(const QString &word)
+    static Enum enumerator(const QString &word)
     {
         return Enum(QMetaEnum::fromType<Enum>().keyToValue(word.toLatin1().constData()));
     }
