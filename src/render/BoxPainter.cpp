@@ -69,11 +69,16 @@ void drawBorderImage(
     QPixmap pixmap = image.pixmapForRatio(deviceRatio);
     const qreal ratio = pixmap.devicePixelRatio();
     pixmap.setDevicePixelRatio(1.0);
-    const QMargins margins(parameter.borders[Custom::Left], parameter.borders[Custom::Top],
-        parameter.borders[Custom::Right], parameter.borders[Custom::Bottom]);
-    const auto scaled = [ratio](int margin) { return toCoordinate(qint64(margin * ratio)); };
-    const QMargins source(
-        scaled(margins.left()), scaled(margins.top()), scaled(margins.right()), scaled(margins.bottom()));
+    // Margins beyond the image would be read from outside of it.
+    const auto bounded = [&parameter](const QSize &size, qreal scale) {
+        const auto margin = [&](Custom::BorderEdge edge, int extent) {
+            return int(qBound(0.0, parameter.borders[edge] * scale, qreal(extent)));
+        };
+        return QMargins(margin(Custom::Left, size.width()), margin(Custom::Top, size.height()),
+            margin(Custom::Right, size.width()), margin(Custom::Bottom, size.height()));
+    };
+    const QMargins margins = bounded(rect.size().expandedTo(QSize(0, 0)), 1.0);
+    const QMargins source = bounded(pixmap.size(), ratio);
 
     const QPainterPath clip = BoxPainter::clipPath(rect, parameter);
     if (!clip.isEmpty()) {

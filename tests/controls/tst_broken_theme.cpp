@@ -108,7 +108,7 @@ void BrokenThemeTest::valuesDoNoHarm()
     }
     QByteArray values = "<ObjectParameter>" + fields[0].toUtf8() + "</ObjectParameter>"
         + attributesXml(QStringLiteral("FontSize=9 BorderWidth:AllEdge=3 BorderRadius:AllCorner=3 FontColor=#336699 "
-                                       "BackgroundColor=#336699 BorderColor:AllEdge=#336699"));
+                                       "BackgroundColor=#336699 BorderColor:AllEdge=#336699 BorderImage=@red16x16"));
     for (const QString &name : fields[1].split(QLatin1Char(' '))) {
         for (const char *status : { "", ":Hover" })
             values += QStringLiteral("<%1%2>%3</%1%2>").arg(name, QLatin1String(status), value).toUtf8();
