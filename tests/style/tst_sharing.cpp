@@ -1,5 +1,5 @@
+#include "CaseFile.h"
 #include "StyleHost.h"
-#include "support/StyleTest.h"
 
 using Custom::Hover;
 using Custom::Normal;
@@ -7,35 +7,21 @@ using Custom::Pressed;
 
 namespace {
 
-const QStringList s_lstNone;
 const QStringList s_lstItem{ QStringLiteral("item") };
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-QString value(const CustomObject &object, const char *attribute, Custom::ItemStatus status = Normal,
-    const QStringList &subs = s_lstNone)
-{
-    return object.cAttributeValue(text(attribute), status, subs);
-}
 
 // What the painters read, held against the getters that look everything up anew.
 void comparePaths(const StyleHost &host, Custom::ItemStatus status, const QStringList &subs)
 {
     const std::shared_ptr<const ResolvedStyle> style = host.data()->resolved(status, subs);
     bool ok = false;
-    for (const QRect &rect : { QRect(0, 0, 70, 30), QRect(5, 5, 1, 900), QRect() }) {
+    for (const QRect &rect : { QRect(5, 5, 1, 900), QRect() }) {
         QCOMPARE(
             style->background.scaledTo(rect.isEmpty() ? host.rect() : rect), host.cBackgroundColor(status, rect, subs));
         const QBrush common = host.cBorderColor(Custom::AllEdge, status, subs, rect, &ok);
-        QCOMPARE(style->commonColor.scaledTo(rect), common);
-        QCOMPARE(style->hasCommonColor, ok);
+        QVERIFY(style->commonColor.scaledTo(rect) == common && style->hasCommonColor == ok);
         for (int i = 0; i < 4; ++i) {
             const QBrush edge = host.cBorderColor(Custom::BorderEdge(i), status, subs, rect, &ok);
-            QCOMPARE(style->edgeColors[i].scaledTo(rect), edge);
-            QCOMPARE(style->hasEdgeColor[i], ok);
+            QVERIFY(style->edgeColors[i].scaledTo(rect) == edge && style->hasEdgeColor[i] == ok);
         }
     }
     for (int i = 0; i < 4; ++i) {
@@ -47,21 +33,20 @@ void comparePaths(const StyleHost &host, Custom::ItemStatus status, const QStrin
     }
     QCOMPARE(style->backgroundImage.path(), host.cBackgroundImage(status, subs));
     QCOMPARE(style->borderImage.path(), host.cBorderImage(status, subs));
-    QCOMPARE(style->baseBackgroundImage.path(), value(host, "BaseBackgroundImage", status, subs));
+    QCOMPARE(style->baseBackgroundImage.path(), value(host, "BaseBackgroundImage"_s, status, subs));
     QCOMPARE(style->fontColor, host.cFontColor(status, subs));
-    QCOMPARE(style->fontFamily, value(host, "FontFamily", status, subs));
-    QCOMPARE(style->fontSize, value(host, "FontSize", status, subs).toInt());
-    QCOMPARE(style->icon.isNull(), value(host, "Icon", status, subs).isEmpty());
+    QCOMPARE(style->fontFamily, value(host, "FontFamily"_s, status, subs));
+    QCOMPARE(style->fontSize, value(host, "FontSize"_s, status, subs).toInt());
+    QCOMPARE(style->icon.isNull(), value(host, "Icon"_s, status, subs).isEmpty());
 }
 
-void compareAllPaths(const StyleHost &host)
+void compareAllPaths(const StyleHost &host, const char *step)
 {
     for (int status = -1; status < 5; ++status) {
-        for (const QStringList &subs : { s_lstNone, s_lstItem, QStringList({ "item", "checked" }), QStringList({ "" }),
-                 QStringList({ "unknown" }), QStringList({ "ITEM" }) }) {
-            comparePaths(host, Custom::ItemStatus(status), subs);
+        for (const auto &subs : { ""_s, "item"_s, "item,checked"_s, ","_s, "unknown"_s, "ITEM"_s }) {
+            comparePaths(host, Custom::ItemStatus(status), subs.isEmpty() ? QStringList() : subs.split(','));
             if (QTest::currentTestFailed())
-                QFAIL(qPrintable(QStringLiteral("status %1, %2").arg(status).arg(subs.join(QLatin1Char(':')))));
+                QFAIL(qPrintable(QStringLiteral("%1: status %2, '%3'").arg(step).arg(status).arg(subs)));
         }
     }
 }
@@ -73,158 +58,100 @@ class TestSharing : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void hostThatExistsBeforeTheDocument();
-    void copyTakesValues();
-    void equalControlsShare();
-    void cachedPathEqualsPlainPath_data();
-    void cachedPathEqualsPlainPath();
+    void hostThatWasAskedKeepsItsValuesUntilTheNextRebuild()
+    {
+        StyleHost asked;
+        asked.cSetFontColor("#010101"_s);
+        Custom::addXmlPath(dataFile("rich.xml"_s));
+        QVERIFY(StyleHost().cFontSize() == 14 && value(asked, "FontSize"_s).isEmpty());
+        Custom::changeSkin();
+        QVERIFY(asked.cFontSize() == 14 && value(asked, "FontColor"_s) == "#010101"_s);
+    }
+
+    void copyTakesValuesAndLeavesTheRest()
+    {
+        Custom::addXmlPath(dataFile("rich.xml"_s));
+        StyleHost source("Sample"_s, "Gray"_s);
+        source.cSetBorderWidth(8, Custom::Left);
+        source.cSetColorRect(1, QRect(0, 0, 1, 1), Qt::red);
+        source.cSetParentClassName("Outer"_s);
+        StyleHost copy("Other"_s);
+        copy.cSetFontColor("#fff"_s);
+        copy.cCopyAttribute(nullptr);
+        QCOMPARE(value(copy, "FontColor"_s), "#fff"_s);
+        copy.cCopyAttribute(&source);
+        const CustomObjectData &from = *source.data();
+        const CustomObjectData &to = *copy.data();
+        QVERIFY(!from.dirty && !to.dirty && to.parameters == from.parameters && to.localValues == from.localValues);
+        QVERIFY(to.styleValues.isSharedWith(from.styleValues) && copy.cFontSize() == 9 && to.colorRects.isEmpty());
+        QCOMPARE(copy.cStyleSelector() + to.parentClassName + to.className, "GrayOuterOther"_s);
+        QCOMPARE(to.clearedAttributes, QStringList("FontColor"_s));
+        // A rebuild takes the control's own class: there is no "Other" in "Outer".
+        copy.cResetAllValue();
+        QCOMPARE(value(copy, "FontSize"_s), QString());
+    }
+
+    void equalControlsShareUntilOneOverrides()
+    {
+        Custom::addXmlPath(dataFile("rich.xml"_s));
+        StyleHost a;
+        StyleHost b;
+        const auto style = [](const StyleHost &host) { return host.data()->resolved(Hover, s_lstItem).get(); };
+        const auto held = a.data()->resolved(Hover, s_lstItem);
+        const QMap<QString, QString> values = a.data()->styleValues;
+        QVERIFY(style(a) == held.get() && style(b) == held.get() && b.data()->styleValues.isSharedWith(values));
+        a.cSetBackgroundColor("#abcdef"_s, Hover, s_lstItem);
+        QVERIFY(!a.data()->styleValues.isSharedWith(values) && style(a) != held.get() && style(a) == style(a));
+        b.cClearValue("FontColor"_s);
+        QCOMPARE(values.value("fontcolor"_s), "#111111"_s);
+        b.cResetAllValue();
+        QCOMPARE(style(b), held.get());
+        // An override of what the document doesn't name leaves the table shared and its control apart.
+        b.cSetAttributeValue("Own"_s, "x"_s);
+        QVERIFY(b.data()->styleValues.isSharedWith(values) && style(b) != held.get());
+        StyleHost c;
+        QCOMPARE(style(c), held.get());
+        addColors("<Color Id='A' Value='#00ff00'/>");
+        QVERIFY(style(c) != held.get() && c.data()->styleValues.isSharedWith(values));
+        Custom::changeSkin();
+        QVERIFY(style(c) == style(StyleHost()) && !c.data()->styleValues.isSharedWith(values));
+    }
+
+    void cachedPathEqualsPlainPath_data() { CaseFile::addRows("hosts", { "selector", "parent" }); }
+    void cachedPathEqualsPlainPath()
+    {
+        Custom::addXmlPath(dataFile("rich.xml"_s));
+        StyleHost host("Sample"_s, CaseFile::cell("selector"));
+        StyleHost untouched("Sample"_s, CaseFile::cell("selector"));
+        host.cSetParentClassName(CaseFile::cell("parent"));
+        const std::pair<const char *, std::function<void()>> steps[] = {
+            { "document", [] {} },
+            { "colour", [&] { addColors("<Color Id='A' Value='#00ff00'/><Color Id='Shade' Value='DB_COLOR_B'/>"); } },
+            { "override", [&] { host.cSetBorderWidth(9, Custom::Left, Hover); } },
+            { "override again", [&] { host.cSetBorderWidth(11, Custom::Left, Hover); } },
+            { "second override", [&] { host.cSetBackgroundColor("DB_COLOR_Shade"_s, Pressed, s_lstItem); } },
+            { "later colour",
+                [&] { addColors("<Color Id='B' Value='qlineargradient(a:0;b:0;c:1;d:1**s:0 #f00;)'/>"); } },
+            { "cleared", [&] { host.cClearValue("Font"_s); } },
+            { "empty override", [&] { host.cSetAttributeValue("BorderColor:AllEdge"_s, "#Empty#"_s, Hover); } },
+            { "reset", [&] { host.cResetAllValue(); } },
+            { "selector", [&] { host.cSetStyleSelector("Gray"_s); } },
+            { "class", [&] { host.cSetClassName("Outer"_s); } },
+            { "later document", [&] { addDocument(classXml("Sample", "Default", "<FontSize>77</FontSize>")); } },
+            { "skin", [] { Custom::changeSkin(); } },
+            { "copy", [&] { host.cCopyAttribute(&untouched); } },
+            { "copy of an override", [&] { untouched.cSetFontSize(3), host.cCopyAttribute(&untouched); } },
+        };
+        for (const auto &[step, act] : steps) {
+            act();
+            for (const StyleHost *control : { &host, &untouched }) {
+                compareAllPaths(*control, step);
+                if (QTest::currentTestFailed())
+                    return;
+            }
+        }
+    }
 };
-
-void TestSharing::hostThatExistsBeforeTheDocument()
-{
-    StyleHost early;
-    StyleHost asked;
-    asked.cSetFontColor(text("#010101"));
-    addDocument(richDocument());
-    QCOMPARE(early.cFontSize(), 14);
-    // A control that was asked before keeps what it found until the next rebuild.
-    QCOMPARE(value(asked, "FontSize"), QString());
-    compareAllPaths(asked);
-    Custom::changeSkin();
-    QCOMPARE(asked.cFontSize(), 14);
-    QCOMPARE(value(asked, "FontColor"), text("#010101"));
-    compareAllPaths(asked);
-}
-
-void TestSharing::copyTakesValues()
-{
-    addDocument(richDocument() + classXml("Other", "Gray", "<FontSize>30</FontSize>"));
-    StyleHost source(text("Sample"), text("Gray"));
-    source.cSetBorderWidth(8, Custom::Left);
-    source.cSetColorRect(1, QRect(0, 0, 1, 1), Qt::red);
-    source.cSetParentClassName(text("Outer"));
-    StyleHost copy(text("Other"));
-    copy.cSetFontColor(text("#fff"));
-    const QStringList cleared = copy.data()->clearedAttributes;
-    copy.data()->sizeHintCache = QSize(3, 3);
-    copy.cCopyAttribute(nullptr);
-    QCOMPARE(value(copy, "FontColor"), text("#fff"));
-
-    copy.cCopyAttribute(&source);
-    QVERIFY(!source.data()->dirty && !copy.data()->dirty);
-    QCOMPARE(copy.cStyleSelector(), text("Gray"));
-    QCOMPARE(copy.data()->parentClassName, text("Outer"));
-    QCOMPARE(copy.data()->parameters, source.data()->parameters);
-    QCOMPARE(copy.data()->localValues, source.data()->localValues);
-    QVERIFY(copy.data()->styleValues.isSharedWith(source.data()->styleValues));
-    QCOMPARE(copy.cFontSize(), 9);
-    QCOMPARE(copy.data()->className, text("Other"));
-    QCOMPARE(copy.data()->clearedAttributes, cleared);
-    QVERIFY(copy.data()->colorRects.isEmpty());
-    QCOMPARE(copy.data()->sizeHintCache, QSize(3, 3));
-    compareAllPaths(copy);
-    // A rebuild takes the control's own class: there is no "Other" in "Outer".
-    copy.cResetAllValue();
-    QCOMPARE(value(copy, "FontSize"), QString());
-    copy.cSetParentClassName(QString());
-    QCOMPARE(copy.cFontSize(), 30);
-    compareAllPaths(copy);
-}
-
-void TestSharing::equalControlsShare()
-{
-    addDocument(richDocument());
-    StyleHost a(text("Sample"));
-    StyleHost b(text("Sample"));
-    const auto style = [](const StyleHost &host) { return host.data()->resolved(Hover, s_lstItem).get(); };
-    const auto share = [&] {
-        a.data()->initData();
-        b.data()->initData();
-        return a.data()->styleValues.isSharedWith(b.data()->styleValues);
-    };
-    QVERIFY(share());
-    QCOMPARE(style(a), style(b));
-    QCOMPARE(style(a), style(a));
-    const auto held = a.data()->resolved(Hover, s_lstItem);
-    const QMap<QString, QString> values = a.data()->styleValues;
-
-    a.cSetBackgroundColor(text("#abcdef"), Hover, s_lstItem);
-    QVERIFY(!share());
-    QVERIFY(style(a) != style(b));
-    QCOMPARE(style(b), held.get());
-    QCOMPARE(style(a), style(a));
-    QCOMPARE(value(b, "BackgroundColor", Normal), text(kGradient));
-
-    b.cClearValue(text("FontColor"));
-    QCOMPARE(values.value(text("fontcolor")), text("#111111"));
-    b.cResetAllValue();
-    QCOMPARE(style(b), held.get());
-    // An override of what the document doesn't name leaves the table shared and its control apart.
-    b.cSetAttributeValue(text("Own"), text("x"));
-    QVERIFY(b.data()->styleValues.isSharedWith(values));
-    QVERIFY(style(b) != held.get());
-
-    StyleHost c(text("Sample"));
-    QCOMPARE(style(c), held.get());
-    addColors("<Color Id='A' Value='#00ff00'/>");
-    QVERIFY(style(c) != held.get());
-    QVERIFY(c.data()->styleValues.isSharedWith(values));
-    Custom::changeSkin();
-    StyleHost d(text("Sample"));
-    QCOMPARE(style(c), style(d));
-    QVERIFY(!c.data()->styleValues.isSharedWith(values));
-}
-
-void TestSharing::cachedPathEqualsPlainPath_data()
-{
-    QTest::addColumn<QString>("selector");
-    QTest::addColumn<QString>("parentClass");
-    for (const char *selector : { "Default", "Gray", "Alias", "Unknown" }) {
-        for (const char *parent : { "", "Outer" })
-            QTest::addRow("%s in '%s'", selector, parent) << text(selector) << text(parent);
-    }
-}
-
-void TestSharing::cachedPathEqualsPlainPath()
-{
-    QFETCH(QString, selector);
-    QFETCH(QString, parentClass);
-    addDocument(richDocument());
-    StyleHost host(text("Sample"), selector);
-    StyleHost untouched(text("Sample"), selector);
-    host.cSetParentClassName(parentClass);
-    const auto check = [&](const char *step) {
-        compareAllPaths(host);
-        if (!QTest::currentTestFailed())
-            compareAllPaths(untouched);
-        if (QTest::currentTestFailed())
-            QFAIL(step);
-    };
-    const std::pair<const char *, std::function<void()>> steps[] = {
-        { "document", [] {} },
-        { "colour", [&] { addColors("<Color Id='A' Value='#00ff00'/><Color Id='Shade' Value='DB_COLOR_B'/>"); } },
-        { "resized", [&] { host.resize(33, 44); } },
-        { "override", [&] { host.cSetBorderWidth(9, Custom::Left, Hover); } },
-        { "override again", [&] { host.cSetBorderWidth(11, Custom::Left, Hover); } },
-        { "second override", [&] { host.cSetBackgroundColor(text("DB_COLOR_Shade"), Pressed, s_lstItem); } },
-        { "later colour", [&] { addColors(QByteArray("<Color Id='B' Value='") + kGradient + "'/>"); } },
-        { "cleared", [&] { host.cClearValue(text("Font")); } },
-        { "empty override", [&] { host.cSetAttributeValue(text("BorderColor:AllEdge"), text("#Empty#"), Hover); } },
-        { "reset", [&] { host.cResetAllValue(); } },
-        { "selector", [&] { host.cSetStyleSelector(text("Gray")); } },
-        { "class", [&] { host.cSetClassName(text("Outer")); } },
-        { "second document", [&] { addDocument(classXml("Sample", "Default", "<FontSize>77</FontSize>")); } },
-        { "skin", [] { Custom::changeSkin(); } },
-        { "copy", [&] { host.cCopyAttribute(&untouched); } },
-        { "copy of an override", [&] { untouched.cSetFontSize(3), host.cCopyAttribute(&untouched); } },
-    };
-    for (const auto &step : steps) {
-        step.second();
-        check(step.first);
-        if (QTest::currentTestFailed())
-            return;
-    }
-}
 
 ZANTHIC_TEST_MAIN(TestSharing)
 #include "tst_sharing.moc"
