@@ -1,3 +1,4 @@
+#include "CaseFile.h"
 #include "StyleHost.h"
 #include "support/Probe.h"
 
@@ -7,7 +8,11 @@
 #include <Zanthic/CustomFrame.h>
 #include <Zanthic/CustomWidget.h>
 
-#include <QtWidgets/QGraphicsDropShadowEffect>
+#include <QtWidgets/QGraphicsEffect>
+
+using CaseFile::cell;
+using Custom::En_us;
+using Custom::Zh_cn;
 
 // A control that is styled by a style sheet. Outside of the anonymous namespace, so that a sheet can name it.
 class SheetHost : public QWidget, public CustomQssHelper
@@ -31,9 +36,26 @@ class ForgetfulWidget : public CustomWidget
     Q_OBJECT
 };
 
+namespace {
+
+// The family in force after a change of language, and whether the controls have to follow.
+QString changedTo(Custom::Language language)
+{
+    Custom::setLanguage(language);
+    return Custom::globalFontFamily() + (CustomPrivate::isFontFamilyChange() ? " changes" : "");
+}
+
+} // namespace
+
 class TestHosts : public StyleTest
 {
     Q_OBJECT
+
+private:
+    void addSheet(const QByteArray &tag, const QByteArray &path)
+    {
+        addDocument("<Class Name='Q'><QSS><" + tag + ">" + path + "</" + tag + "></QSS></Class>");
+    }
 
 private Q_SLOTS:
     void sheetSelectsOnTheSelectorWhenPolishedAgain()
@@ -86,10 +108,7 @@ private Q_SLOTS:
 
     void readyHostsPaintTheirBox()
     {
-        addDocument("<Class Name='CustomWidget'><Selector Name='Default'><ObjectParameter>286</ObjectParameter>"
-                    "<BackgroundColor>#00ff00</BackgroundColor><BorderWidth:AllEdge>3</BorderWidth:AllEdge>"
-                    "<BorderColor:AllEdge>#0000ff</BorderColor:AllEdge></Selector><Selector Name='GrayWhite'>"
-                    "<BackgroundColor>#ff00ff</BackgroundColor></Selector></Class>");
+        Custom::addXmlPath(dataFile("box.xml"_s));
         ForgetfulWidget widget; // is styled by the name of its base
         CustomFrame frame;
         frame.cSetClassName("CustomWidget"_s);
@@ -118,11 +137,11 @@ private Q_SLOTS:
             host.setFont(QFont("Before"_s, 23, QFont::Bold));
             host.cSetIsUserFontFamily(own);
             SheetHost sheetHost;
-            Custom::setLanguage(Custom::En_us);
+            Custom::setLanguage(En_us);
             QCOMPARE(sheetHost.color(), "#ff0000ff"_s);
             if (own)
                 sheetHost.cSetPrivateFontFamily("Mine"_s);
-            Custom::setLanguage(Custom::Zh_cn);
+            Custom::setLanguage(Zh_cn);
             CustomPrivate::setIsFontFamilyChange(changed);
             host.cLanguageChange();
             sheetHost.cLanguageChange();
@@ -142,7 +161,7 @@ private Q_SLOTS:
         Custom::changeSkin();
         QVERIFY(host.cFontFamily() == "Mine"_s && host.font().family() == "Mine"_s);
         // An empty family would be found between all characters.
-        Custom::setGlobalFontFamily(Custom::Zh_cn, QString());
+        Custom::setGlobalFontFamily(Zh_cn, QString());
         host.cSetPrivateFontFamily("Again"_s);
         QCOMPARE(host.styleSheet(), "A{font:'Mine'}B{font:'Mine'}C{font:'family en'}"_s);
     }
@@ -152,9 +171,68 @@ private Q_SLOTS:
         StyleHost host;
         host.cSetShadowEnable(true, nullptr);
         host.cSetShadowBulrRadius(5.0F);
-        host.cSetShadowColor(Qt::red);
-        QVERIFY(!host.graphicsEffect() && !host.cShadowEnable());
-        QVERIFY(host.cShadowBulrRadius() == 0.0F && !host.cShadowColor().isValid());
+        QVERIFY(!host.graphicsEffect() && !host.cShadowEnable() && host.cShadowBulrRadius() == 0.0F);
+    }
+
+    void families_data()
+    {
+        CaseFile::addRows("families", { "attributes", "chinese", "english", "inForce", "toChinese", "toEnglish" });
+    }
+    void families()
+    {
+        addDocument(classXml("Global", "Default", cell("attributes").toUtf8()));
+        QTEST(Custom::globalFontFamily(), "inForce");
+        QTEST(changedTo(Zh_cn), "toChinese");
+        QTEST(changedTo(En_us), "toEnglish");
+        QCOMPARE(Custom::language(), En_us);
+        QTEST(Custom::globalFontFamily(En_us), "english"); // which files an empty one
+        QTEST(Custom::globalFontFamily(Zh_cn), "chinese");
+    }
+
+    void nextDocumentSetsTheFirstFamilyAgain()
+    {
+        Custom::addXmlPath(dataFile("families.xml"_s));
+        QCOMPARE(changedTo(En_us), "Family En changes"_s);
+        QCOMPARE(changedTo(En_us), "Family En"_s); // only the second comparison shows
+        Custom::addXmlPath("/no/such/document"_s);
+        QCOMPARE(Custom::globalFontFamily(), "Family En"_s);
+        addDocument(classXml("Global", "Default", "<FontFamily:En_us>New</FontFamily:En_us>"));
+        QVERIFY(Custom::globalFontFamily() == "Family Zh"_s && Custom::language() == En_us);
+        Custom::setGlobalFontFamily(Zh_cn, "Newer"_s); // which tells nobody
+        QCOMPARE(Custom::globalFontFamily(), "Family Zh"_s);
+        QCOMPARE(changedTo(En_us), "New changes"_s);
+    }
+
+    void sheetsOfAllTypes_data() { CaseFile::addRows("sheets", { "type", "tag" }); }
+    void sheetsOfAllTypes()
+    {
+        const int type = int(CaseFile::number("type"));
+        addSheet(cell("tag").toUtf8(), scratchFile("sheet").toUtf8());
+        addSheet(cell("tag").toLower().toUtf8(), "/no/such/file"); // tags keep their case
+        for (int i = -1; i <= 11; ++i)
+            QCOMPARE(Custom::styleSheet(Custom::StyleSheetType(i)), i == type ? "sheet"_s : QString());
+    }
+
+    void placeholders_data() { CaseFile::addRows("placeholders", { "file", "sheet" }); }
+    void placeholders()
+    {
+        Custom::addXmlPath(dataFile("families.xml"_s));
+        addSheet("CustomTabBar", scratchFile(cell("file").toUtf8()).toUtf8());
+        QTEST(Custom::styleSheet(Custom::SheetTabBar), "sheet");
+    }
+
+    void sheetsAreBuiltOnceForASkin()
+    {
+        const QString path = scratchFile("one ##EnusFontFamily##");
+        addSheet("CustomSlider", path.toUtf8());
+        Custom::addXmlPath(dataFile("families.xml"_s));
+        QCOMPARE(Custom::styleSheet(Custom::SheetSlider), "one Family En"_s);
+        overwrite(path, "two ##EnusFontFamily##");
+        Custom::setGlobalFontFamily(En_us, "New"_s);
+        addDocument(QByteArray());
+        QCOMPARE(Custom::styleSheet(Custom::SheetSlider), "one Family En"_s);
+        Custom::changeSkin(); // reads the families of the documents again, too
+        QCOMPARE(Custom::styleSheet(Custom::SheetSlider), "two Family En"_s);
     }
 };
 
