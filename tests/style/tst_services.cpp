@@ -31,18 +31,18 @@ public:
     QString taken()
     {
         QCoreApplication::sendPostedEvents(this);
-        return m_lstTaken.join(' ');
+        return m_strTaken.trimmed();
     }
 
 protected:
     void customEvent(QEvent *event) override
     {
         QCOMPARE(int(event->type()), 5097);
-        m_lstTaken.append(QString::number(static_cast<HotKeyEvent *>(event)->id()));
+        m_strTaken += QStringLiteral(" %1").arg(static_cast<HotKeyEvent *>(event)->id());
     }
 
 private:
-    QStringList m_lstTaken;
+    QString m_strTaken;
 };
 
 // Presses keys; true when the press was accepted as a hot key.

@@ -99,16 +99,6 @@ private Q_SLOTS:
         compareParsed(text);
     }
 
-    void imagePathIsTexture()
-    {
-        const QString path = scratchFile(QByteArray(), ".png"_s);
-        QVERIFY(QImage(3, 2, QImage::Format_RGB32).save(path));
-        const QBrush brush = Custom::string2Brush("  "_s + path + ' ', QRect(0, 0, 50, 50));
-        QCOMPARE(brush.texture().size(), QSize(3, 2));
-        compareParsed(path);
-        QCOMPARE(Custom::string2Brush(scratchFile("no image", ".png"_s)).style(), Qt::NoBrush);
-    }
-
     void gradientTexts_data() { CaseFile::addRows("gradients", { "text", "size", "expected" }); }
     void gradientTexts()
     {
@@ -147,7 +137,6 @@ private Q_SLOTS:
 
     void otherBrushesAreWrittenAsTheirColor()
     {
-        QCOMPARE(Custom::color2String(QColor()), "rgba(0,0,0,255)"_s);
         QBrush texture(QPixmap(2, 2));
         texture.setColor(QColor(9, 8, 7, 6));
         QCOMPARE(Custom::brush2String(texture), "rgba(9,8,7,6)"_s);
