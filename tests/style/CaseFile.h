@@ -6,7 +6,7 @@
 #include <QtTest/QtTest>
 
 /// Test cases as plain text, one a line. Columns stand between "|", without the blanks around them; a column in
-/// quotes keeps its blanks. Lines that begin with "--" say what follows.
+/// quotes keeps its blanks. Lines that begin with "-- " say what follows.
 namespace CaseFile {
 
 /// Adds a row of texts for each line of tests/data/cases/NAME.txt.
@@ -21,7 +21,7 @@ inline void addRows(const char *name, std::initializer_list<const char *> column
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine()).trimmed();
         ++number;
-        if (line.isEmpty() || line.startsWith(QLatin1String("--")))
+        if (line.isEmpty() || line.startsWith(QLatin1String("-- ")))
             continue;
         const QStringList cells = line.split(QLatin1Char('|'));
         QVERIFY2(cells.size() == int(columns.size()), qPrintable(line));

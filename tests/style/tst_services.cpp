@@ -88,9 +88,8 @@ private Q_SLOTS:
     void mainDialogMayBeMissing()
     {
         delete new MainDialog;
-        QCOMPARE(Custom::mainDialog(), nullptr);
         expectWarning("null receiver"_s);
-        QVERIFY(press("Ctrl+A"_s));
+        QVERIFY(!Custom::mainDialog() && press("Ctrl+A"_s));
     }
 
     void modalWindowsSwitchHotKeysOff()
