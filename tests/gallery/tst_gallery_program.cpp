@@ -1,9 +1,10 @@
-#include "support/StyleTest.h"
+#include "style/CaseFile.h"
+#include "style/StyleHost.h"
 
-#include <QtCore/QDirIterator>
 #include <QtCore/QProcess>
-#include <QtGui/QImage>
 #include <QtXml/QDomDocument>
+
+using CaseFile::cell;
 
 namespace {
 
@@ -22,20 +23,13 @@ Run run(const QString &program, const QStringList &arguments,
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(folder);
     process.start(program, arguments);
-    Run result;
     if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
-        return result;
-    result.status = process.exitCode();
-    result.output = QString::fromUtf8(process.readAllStandardOutput());
-    for (const QByteArray &line : process.readAllStandardError().split('\n')) {
-        // Qt's remark on a session without a runtime folder says nothing about the program.
-        if (!line.isEmpty() && !line.startsWith("QStandardPaths:"))
-            result.errors += QString::fromUtf8(line) + QLatin1Char('\n');
-    }
-    return result;
+        return {};
+    // Qt's remark on a session without a runtime folder says nothing about the program.
+    static const QRegularExpression s_oRemark("^QStandardPaths:.*\n"_s, QRegularExpression::MultilineOption);
+    return { process.exitCode(), process.readAllStandardOutput(),
+        QString::fromUtf8(process.readAllStandardError()).remove(s_oRemark) };
 }
-
-const QString Program = QStringLiteral(GALLERY_PROGRAM);
 
 /// Everything that keeps a translation from being complete.
 QStringList faults(const QString &path)
@@ -43,23 +37,17 @@ QStringList faults(const QString &path)
     QFile file(path);
     QDomDocument document;
     if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file))
-        return { QStringLiteral("can't read ") + path };
+        return { path };
     QStringList found;
-    const QDomNodeList messages = document.elementsByTagName(QStringLiteral("message"));
-    if (messages.isEmpty())
-        found << QStringLiteral("no messages");
+    const QDomNodeList messages = document.elementsByTagName("message"_s);
     for (int i = 0; i < messages.size(); ++i) {
-        const QDomElement message = messages.at(i).toElement();
-        const QString source = message.firstChildElement(QStringLiteral("source")).text();
-        const QDomElement translation = message.firstChildElement(QStringLiteral("translation"));
-        if (translation.hasAttribute(QStringLiteral("type")))
-            found << translation.attribute(QStringLiteral("type")) + QLatin1String(": ") + source;
-        else if (translation.text().isEmpty())
-            found << QStringLiteral("empty: ") + source;
-        else if (translation.text().count(QLatin1String("%1")) != source.count(QLatin1String("%1")))
-            found << QStringLiteral("other arguments: ") + source;
+        const QString source = messages.at(i).firstChildElement("source"_s).text();
+        const QDomElement translation = messages.at(i).firstChildElement("translation"_s);
+        if (translation.hasAttribute("type"_s) || translation.text().isEmpty()
+            || translation.text().count("%1"_s) != source.count("%1"_s))
+            found << translation.attribute("type"_s) + ": " + source;
     }
-    return found;
+    return messages.isEmpty() ? QStringList("no messages"_s) : found;
 }
 
 } // namespace
@@ -68,140 +56,73 @@ class tst_GalleryProgram : public StyleTest
 {
     Q_OBJECT
 
+private:
+    const QString m_strProgram = QStringLiteral(GALLERY_PROGRAM);
+
 private Q_SLOTS:
-    void commandLine_data();
-    void commandLine();
-    void grabsWhatIsChosen();
-    void unwritableFolderIsAnError();
-    void withoutDisplayItRendersOffScreen();
-    void pictureGrowsWithTheScale();
-    void translationIsComplete();
+    void commandLine_data() { CaseFile::addRows("command-lines", { "arguments", "status", "output", "errors" }); }
+    void commandLine()
+    {
+        const Run result = run(m_strProgram, cell("arguments").split(' '));
+        QTEST(QString::number(result.status), "status");
+        QVERIFY2(result.output.contains(cell("output")), qPrintable(result.output));
+        QVERIFY2(result.errors.contains(cell("errors")), qPrintable(result.errors));
+        QCOMPARE(result.output.isEmpty(), cell("output").isEmpty());
+    }
+
+    void grabsWhatIsChosen()
+    {
+        QTemporaryDir folder;
+        const QString into = folder.filePath("a/b"_s);
+        const QStringList common{ "--grab"_s, into, "--page"_s, "CHECKS"_s };
+        const Run one = run(m_strProgram, common + "--skin Dark --language EN_us"_s.split(' '));
+        QCOMPARE(one.output + one.errors, into + "/checks-dark-en_US.png\n");
+        QCOMPARE(run(m_strProgram, common).output.count('\n'), 4);
+        QCOMPARE(QDir(into).entryList(QDir::Files).join(' '),
+            "checks-dark-en_US.png checks-dark-zh_CN.png checks-light-en_US.png checks-light-zh_CN.png"_s);
+    }
+
+    void withoutDisplayItRendersOffScreen()
+    {
+        QTemporaryDir folder;
+        QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+        for (const auto &name : { "DISPLAY"_s, "WAYLAND_DISPLAY"_s, "QT_QPA_PLATFORM"_s })
+            bare.remove(name);
+        const Run result = run(m_strProgram, { "--page"_s, "boxes"_s }, bare, folder.path());
+        const QStringList lines = result.output.split('\n', Qt::SkipEmptyParts);
+        QVERIFY(result.status == 0 && lines.size() == 5 && lines.constFirst().startsWith("No display"_s));
+        for (const QString &path : lines.mid(1))
+            QVERIFY(path.startsWith("build/gallery/boxes-"_s) && !QImage(folder.filePath(path)).isNull());
+    }
+
+    void pictureGrowsWithTheScale()
+    {
+        QTemporaryDir folder;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        QSize sizes[2];
+        for (int i = 0; i < 2; ++i) {
+            environment.insert("QT_SCALE_FACTOR"_s, QString::number(i + 1));
+            run(m_strProgram, { "--grab"_s, folder.path(), "--page"_s, "checks"_s }, environment);
+            sizes[i] = QImage(folder.filePath("checks-light-en_US.png"_s)).size();
+        }
+        QVERIFY(!sizes[0].isEmpty() && sizes[1].width() == 2 * sizes[0].width());
+        // Texts are a little higher or lower at another scale, and the page with them.
+        QVERIFY(qAbs(sizes[1].height() - 2 * sizes[0].height()) <= sizes[0].height() / 20);
+    }
+
+    void translationIsComplete()
+    {
+        const QString sources = QStringLiteral(GALLERY_SOURCES);
+        const QString committed = sources + "/translations/gallery_zh_CN.ts";
+        QCOMPARE(faults(committed), QStringList());
+        // A copy brought up to date would hold what the sources have and the committed file lacks, and the reverse.
+        const QString updated = scratchFile(QByteArray(), ".ts"_s);
+        QVERIFY(QFile::remove(updated) && QFile::copy(committed, updated));
+        const QStringList arguments{ "-locations"_s, "none"_s, sources, "-ts"_s, updated };
+        QCOMPARE(run(QStringLiteral(LUPDATE_PROGRAM), arguments).status, 0);
+        QCOMPARE(faults(updated), QStringList());
+    }
 };
-
-void tst_GalleryProgram::commandLine_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<QString>("errors");
-    const auto row
-        = [](const char *name, const QStringList &arguments, int status, const char *output, const char *errors) {
-              QTest::newRow(name) << arguments << status << QString::fromLatin1(output) << QString::fromLatin1(errors);
-          };
-    const auto text = [](const char *words) { return QString::fromLatin1(words); };
-    row("unknown page", { text("--page"), text("nope") }, 2, "", "'nope'. Known: boxes, buttons, checks, engine");
-    row("unknown skin", { text("--skin"), text("nope") }, 2, "", "'nope'. Known: light, dark");
-    row("unknown language", { text("--language"), text("zh") }, 2, "", "'zh'. Known: en_US, zh_CN");
-    row("empty name", { text("--page=") }, 2, "", "Known: boxes");
-    row("unknown option", { text("--bogus") }, 2, "", "bogus");
-    row("value missing", { text("--page") }, 2, "", "page");
-    row("stray word", { text("boxes") }, 2, "", "boxes");
-    row("unknown page to grab", { text("--grab"), text("."), text("--page"), text("nope") }, 2, "", "Known: boxes");
-    row("list", { text("--list") }, 0,
-        "pages: boxes, buttons, checks, engine\nskins: light, dark\nlanguages: en_US, zh_CN\n", "");
-    row("list with an error", { text("--list"), text("--skin"), text("nope") }, 2, "", "Known: light, dark");
-    row("version", { text("--version") }, 0, "zanthic-gallery V", "");
-    row("help", { text("--help") }, 0, "--grab <folder>", "");
-}
-
-void tst_GalleryProgram::commandLine()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(int, status);
-    QFETCH(QString, output);
-    QFETCH(QString, errors);
-    const Run result = run(Program, arguments);
-    QCOMPARE(result.status, status);
-    QVERIFY2(result.output.contains(output), qPrintable(result.output));
-    QVERIFY2(result.errors.contains(errors), qPrintable(result.errors));
-    QVERIFY(output.isEmpty() == result.output.isEmpty());
-}
-
-void tst_GalleryProgram::grabsWhatIsChosen()
-{
-    QTemporaryDir folder;
-    const QString into = folder.filePath(QStringLiteral("a/b"));
-    const QStringList common = { QStringLiteral("--grab"), into, QStringLiteral("--page"), QStringLiteral("CHECKS") };
-    const Run one = run(Program,
-        common
-            + QStringList{ QStringLiteral("--skin"), QStringLiteral("Dark"), QStringLiteral("--language"),
-                QStringLiteral("EN_us") });
-    QCOMPARE(one.status, 0);
-    QCOMPARE(one.output, into + QLatin1String("/checks-dark-en_US.png\n"));
-    QCOMPARE(one.errors, QString());
-
-    const Run all = run(Program, common);
-    QCOMPARE(all.status, 0);
-    QStringList files = QDir(into).entryList(QDir::Files);
-    QCOMPARE(files,
-        QStringList({ QStringLiteral("checks-dark-en_US.png"), QStringLiteral("checks-dark-zh_CN.png"),
-            QStringLiteral("checks-light-en_US.png"), QStringLiteral("checks-light-zh_CN.png") }));
-    QCOMPARE(all.output.count(QLatin1Char('\n')), files.size());
-    for (const QString &file : qAsConst(files))
-        QVERIFY(!QImage(QDir(into).filePath(file)).isNull());
-}
-
-void tst_GalleryProgram::unwritableFolderIsAnError()
-{
-    const QString file = scratchFile("in the way");
-    const Run result = run(Program, { QStringLiteral("--grab"), file + QLatin1String("/below") });
-    QCOMPARE(result.status, 1);
-    QVERIFY(result.errors.contains(file));
-    QCOMPARE(result.output, QString());
-}
-
-void tst_GalleryProgram::withoutDisplayItRendersOffScreen()
-{
-    QTemporaryDir folder;
-    QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
-    for (const char *name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" })
-        bare.remove(QString::fromLatin1(name));
-    const Run result = run(Program, { QStringLiteral("--page"), QStringLiteral("boxes") }, bare, folder.path());
-    QCOMPARE(result.status, 0);
-    const QStringList lines = result.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 5);
-    QVERIFY(lines.constFirst().startsWith(QLatin1String("No display")));
-    for (const QString &path : lines.mid(1)) {
-        QVERIFY(path.startsWith(QLatin1String("build/gallery/boxes-")));
-        QVERIFY(QFile::exists(folder.filePath(path)));
-    }
-}
-
-void tst_GalleryProgram::pictureGrowsWithTheScale()
-{
-    QTemporaryDir folder;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    QVector<QSize> sizes;
-    for (const char *scale : { "1", "2" }) {
-        environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::fromLatin1(scale));
-        const Run result = run(Program,
-            { QStringLiteral("--grab"), folder.path(), QStringLiteral("--page"), QStringLiteral("checks"),
-                QStringLiteral("--skin"), QStringLiteral("light"), QStringLiteral("--language"),
-                QStringLiteral("en_US") },
-            environment);
-        QCOMPARE(result.status, 0);
-        sizes << QImage(folder.filePath(QStringLiteral("checks-light-en_US.png"))).size();
-    }
-    QVERIFY(!sizes.at(0).isEmpty());
-    QCOMPARE(sizes.at(1).width(), 2 * sizes.at(0).width());
-    // Texts are a little higher or lower at another scale, and the page with them.
-    QVERIFY(qAbs(sizes.at(1).height() - 2 * sizes.at(0).height()) <= sizes.at(0).height() / 20);
-}
-
-void tst_GalleryProgram::translationIsComplete()
-{
-    const QString sources = QStringLiteral(GALLERY_SOURCES);
-    const QString committed = sources + QLatin1String("/translations/gallery_zh_CN.ts");
-    QCOMPARE(faults(committed), QStringList());
-
-    // A copy brought up to date would hold what the sources have and the committed file lacks, and the reverse.
-    const QString updated = scratchFile(QByteArray(), QStringLiteral(".ts"));
-    QVERIFY(QFile::remove(updated) && QFile::copy(committed, updated));
-    const Run lupdate = run(QStringLiteral(LUPDATE_PROGRAM),
-        { QStringLiteral("-locations"), QStringLiteral("none"), sources, QStringLiteral("-ts"), updated });
-    QCOMPARE(lupdate.status, 0);
-    QCOMPARE(faults(updated), QStringList());
-}
 
 ZANTHIC_TEST_MAIN(tst_GalleryProgram)
 #include "tst_gallery_program.moc"
