@@ -155,12 +155,19 @@ private Q_SLOTS:
         struct Counter : QWidget
         {
             int count = 0;
-            void customEvent(QEvent *event) override { count += event->type() == ChangeSkinEvent::EventType; }
+            QString family;
+            void customEvent(QEvent *event) override
+            {
+                count += event->type() == ChangeSkinEvent::EventType;
+                family = Custom::globalFontFamily();
+            }
         } counter;
         QList<QByteArray> images;
         QList<double> pages;
         for (const auto &skin : { "light"_s, "dark"_s, "light"_s }) {
             QVERIFY(ZanthicTheme::applySkin(skin));
+            // Whoever looks while it is told of the skin finds the font of the language, not that of the first one.
+            QCOMPARE(counter.family, Custom::globalFontFamily(Custom::En_us));
             for (const auto &unknown : { ""_s, "Light"_s, "sepia"_s })
                 QVERIFY(!ZanthicTheme::applySkin(unknown) && ZanthicTheme::currentSkin() == skin);
             pages += luminance(Custom::string2Color(kPage));
