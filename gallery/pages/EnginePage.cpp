@@ -70,7 +70,8 @@ EnginePage::EnginePage(QWidget *parent) : GalleryPage(parent), m_pStatuses(new Q
     addControl();
     for (Field *field : { m_pClass, m_pParentClass, m_pSelector, m_pSubSelectors, m_pAttribute })
         connect(field, &Field::textChanged, this, &EnginePage::applyQuery);
-    for (QAbstractButton *button : m_pStatuses->buttons())
+    const QList<QAbstractButton *> statuses = m_pStatuses->buttons();
+    for (QAbstractButton *button : statuses)
         connect(button, &QAbstractButton::clicked, this, &EnginePage::applyQuery);
     setQuery(examples().constFirst().query);
 }
@@ -206,7 +207,7 @@ QLayout *EnginePage::createOverrideRow()
     auto *layout = new QHBoxLayout;
     layout->setSpacing(Gap);
     layout->addWidget(m_pOverride, 1);
-    for (QWidget *button : QList<QWidget *>{ m_pSetOverride, document, renew })
+    for (QWidget *button : std::initializer_list<QWidget *>{ m_pSetOverride, document, renew })
         layout->addWidget(button);
     return layout;
 }
