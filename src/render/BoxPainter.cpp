@@ -54,10 +54,8 @@ void fillBackground(const CustomObjectData &data, const ResolvedStyle &style, QP
     BoxPainter::fillBox(painter, rect, parameter, style.background.scaledTo(scale));
 }
 
-// The alignment is read for the resting control whatever the status of the paint.
-Qt::Alignment imageAlignment(const CustomObject &object)
+Qt::Alignment imageAlignment(const QString &text)
 {
-    const QString text = object.cAttributeValue(QStringLiteral("Alignment"), Custom::Normal, {});
     const uint bits = text.isEmpty() ? kCentred : uint(text.toInt()) & kAlignmentBits;
     return Qt::Alignment(int(bits));
 }
@@ -109,8 +107,8 @@ bool CustomObject::cDrawBackground(
         style->baseBackgroundImage.draw(painter, rect);
     }
     if (d->hasParameter(Custom::ParamBackgroundImage)) {
-        const QRect target
-            = QStyle::alignedRect(Qt::LeftToRight, imageAlignment(*this), style->backgroundImage.size(), rect);
+        const QRect target = QStyle::alignedRect(
+            Qt::LeftToRight, imageAlignment(style->alignment), style->backgroundImage.size(), rect);
         style->backgroundImage.draw(painter, target);
         painted = true;
     }

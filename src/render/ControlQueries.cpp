@@ -25,10 +25,9 @@ QString ControlQueries::indicatorSuffix(const QWidget *widget, Qt::CheckState st
 QString ControlQueries::currentIndicatorSuffix(const QWidget *widget)
 {
     if (const auto *box = dynamic_cast<const CustomCheckBox *>(widget))
-        return box->cSuffixString(box->checkState());
-    if (const auto *button = dynamic_cast<const CustomRadioButton *>(widget))
-        return button->cSuffixString(button->isChecked());
-    return QString();
+        return indicatorSuffix(box, box->checkState());
+    const auto *button = dynamic_cast<const CustomRadioButton *>(widget);
+    return indicatorSuffix(widget, button && button->isChecked() ? Qt::Checked : Qt::Unchecked);
 }
 
 bool ControlQueries::hasMenu(const QWidget *widget)

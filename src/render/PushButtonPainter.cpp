@@ -101,8 +101,7 @@ void CustomObject::cDrawPushButton(
     option->rect.adjust(1, 1, -1, -1);
     QRect textRect = option->rect;
     const bool underline = style->styleHint(QStyle::SH_UnderlineShortcut, option, widget);
-    int flags = PushButtonLayout::textFlags(
-        cAttributeValue(QStringLiteral("IconAlignment"), Custom::Normal, {}), !button.icon.isNull(), underline);
+    int flags = PushButtonLayout::textFlags(resolved->iconAlignment, !button.icon.isNull(), underline);
 
     const QFont font = contentFont(*resolved, widget);
     option->palette = TextPalette::withColor(option->palette, QPalette::ButtonText, resolved->fontColor);

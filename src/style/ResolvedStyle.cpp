@@ -56,6 +56,8 @@ void ResolvedStyle::readContent(const CustomObjectData &data, Custom::ItemStatus
     fontSize = data.getValue(QStringLiteral("FontSize"), status, subs).toInt();
     m_oFont = completeFont(m_oBaseFont);
     icon = StyleImages::icon(data.getValue(QStringLiteral("Icon"), status, subs));
+    alignment = data.getValue(QStringLiteral("Alignment"), Custom::Normal, {});
+    iconAlignment = data.getValue(QStringLiteral("IconAlignment"), Custom::Normal, {});
 }
 
 QFont ResolvedStyle::completeFont(QFont font) const

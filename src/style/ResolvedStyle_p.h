@@ -38,6 +38,10 @@ struct ResolvedStyle
     int fontSize = 0; ///< px; 0 or below where the control has none
     QIcon icon; ///< null where the control has no attribute "Icon"
 
+    // These two are read for the resting control whatever the status and the sub-selectors.
+    QString alignment; ///< of the background image
+    QString iconAlignment;
+
     /// The application's font with family and size, where there are any.
     const QFont &font() const;
 

@@ -15,6 +15,15 @@ QString number(double value)
     return QString::number(value, 'g', 6);
 }
 
+// A colour of four numbers; invalid when one of them is not from 0 to 255.
+QColor rgbColor(int red, int green, int blue, int alpha)
+{
+    const auto inRange = [](int value) { return value >= 0 && value <= 255; };
+    // QColor::setRgb() would log a warning about the numbers and leave the colour invalid.
+    return inRange(red) && inRange(green) && inRange(blue) && inRange(alpha) ? QColor(red, green, blue, alpha)
+                                                                             : QColor();
+}
+
 // "rgba(" and ")" are cut off by their length, not by what they say.
 QBrush rgbaBrush(const QString &trimmed)
 {
@@ -25,7 +34,7 @@ QBrush rgbaBrush(const QString &trimmed)
         return QBrush();
     const auto part = [&parts](int index) { return parts.at(index).trimmed().toInt(); };
     const int alpha = parts.size() == 4 ? part(3) : 255;
-    return QBrush(Custom::rgbColor(part(0), part(1), part(2), alpha));
+    return QBrush(rgbColor(part(0), part(1), part(2), alpha));
 }
 
 // The coordinates of a gradient text in their order; false when one of the four isn't "word:number".
@@ -94,38 +103,27 @@ bool isGradient(const QString &text)
     return text.trimmed().startsWith(s_strGradient, Qt::CaseInsensitive);
 }
 
-bool isPath(const QString &text)
+// A text at the end of its chain, other than a gradient. isImage tells whether it was taken for a path.
+QBrush plainBrush(const QString &text, bool *isImage = nullptr)
 {
-    const QString trimmed = text.trimmed();
-    return !text.isEmpty() && !trimmed.startsWith(QLatin1Char('#'))
-        && !trimmed.startsWith(QLatin1String("rgba"), Qt::CaseInsensitive);
-}
-
-// A text at the end of its chain, other than a gradient.
-QBrush plainBrush(const QString &text)
-{
+    if (isImage)
+        *isImage = false;
     if (text.isEmpty())
         return QBrush();
     const QString trimmed = text.trimmed();
-    if (isPath(text))
-        return QBrush(StyleImages::pixmap(trimmed));
     if (trimmed.startsWith(QLatin1Char('#'))) {
         QColor color;
         color.setNamedColor(text);
         return QBrush(color);
     }
-    return rgbaBrush(trimmed);
+    if (trimmed.startsWith(QLatin1String("rgba"), Qt::CaseInsensitive))
+        return rgbaBrush(trimmed);
+    if (isImage)
+        *isImage = true;
+    return QBrush(StyleImages::pixmap(trimmed));
 }
 
 } // namespace
-
-QColor Custom::rgbColor(int red, int green, int blue, int alpha)
-{
-    const auto inRange = [](int value) { return value >= 0 && value <= 255; };
-    // QColor::setRgb() would log a warning about the numbers and leave the colour invalid.
-    return inRange(red) && inRange(green) && inRange(blue) && inRange(alpha) ? QColor(red, green, blue, alpha)
-                                                                             : QColor();
-}
 
 QString Custom::color2String(const QColor &color)
 {
@@ -211,10 +209,11 @@ ParsedBrush::ParsedBrush(const QString &text)
 {
     const QString end = followChain(text);
     if (!isGradient(end)) {
-        m_oBrush = plainBrush(end);
+        bool isImage = false;
+        m_oBrush = plainBrush(end, &isImage);
         // A file on disk may change at any time, and one that isn't there may come.
         const bool isKept = end.startsWith(QLatin1Char(':')) && m_oBrush.style() != Qt::NoBrush;
-        if (isPath(end) && !isKept)
+        if (isImage && !isKept)
             m_strPath = end;
         return;
     }

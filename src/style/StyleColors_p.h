@@ -4,13 +4,6 @@
 
 #include <Zanthic/Custom.h>
 
-namespace Custom {
-
-/// A colour of four numbers; invalid when one of them is not from 0 to 255.
-QColor rgbColor(int red, int green, int blue, int alpha);
-
-} // namespace Custom
-
 /// A colour text that is parsed once and gives the same brush as Custom::string2Brush() for any rectangle, as long
 /// as the skin colours stay as they are.
 class ZANTHIC_TEST_EXPORT ParsedBrush

@@ -172,11 +172,6 @@ void StyleImages::clear()
     ++g_nGeneration;
 }
 
-quint64 StyleImages::generation()
-{
-    return g_nGeneration;
-}
-
 bool StyleImage::isKept() const
 {
     // The caches know of a new skin, but not of a file on disk that is written anew.

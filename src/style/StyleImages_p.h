@@ -26,7 +26,6 @@ public:
     static QIcon icon(const QString &path);
 
     static void clear();
-    static quint64 generation(); ///< counts up with each clear()
 };
 
 /// One image of the theme by its path, with what the last paint looked up.
