@@ -2,8 +2,10 @@
 #include "support/StyleTest.h"
 
 #include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomFrame.h>
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomRadioButton.h>
+#include <Zanthic/CustomWidget.h>
 #include <Zanthic/ZanthicTheme.h>
 
 #include <QtGui/QPainter>
@@ -21,7 +23,7 @@ const QList<QStyle::State> kStates{ kNormal, kNormal | QStyle::State_MouseOver, 
 // A live control in one state of a sheet.
 struct Cell
 {
-    std::shared_ptr<QAbstractButton> button;
+    std::shared_ptr<QWidget> control;
     QStyle::State state;
 };
 
@@ -72,6 +74,41 @@ Sheet radioButtons()
     return sheet;
 }
 
+// The two plain boxes, each selector in a row.
+Sheet boxes()
+{
+    Sheet sheet{ QStringLiteral("box"), Custom::WidgetGeneric, 4, {} };
+    for (int i = 0; i < 24; ++i) {
+        std::shared_ptr<QWidget> box;
+        if (i < 12)
+            box = std::make_shared<CustomWidget>();
+        else
+            box = std::make_shared<CustomFrame>();
+        dynamic_cast<CustomObject &>(*box).cSetStyleSelector(Custom::CommonStyleSelector(i / 4 % 3));
+        sheet.cells.append({ box, kStates[i % 4] });
+    }
+    return sheet;
+}
+
+// A generic control is painted at rest whatever its state, so that a plain box is painted by its two halves.
+void paintControl(QPainter *painter, const Sheet &sheet, const Cell &cell)
+{
+    auto &object = dynamic_cast<CustomObject &>(*cell.control);
+    QStyleOptionButton option;
+    option.initFrom(cell.control.get());
+    option.state = cell.state;
+    option.rect = QRect(QPoint(0, 0), kPlace.size());
+    if (const auto *button = qobject_cast<QAbstractButton *>(cell.control.get())) {
+        option.text = button->text();
+        option.icon = button->icon();
+        option.iconSize = QSize(16, 16);
+        object.cDrawWidget(sheet.type, painter, option.rect, &option);
+        return;
+    }
+    object.cDrawBackground(painter, option.rect, object.cGetItemStatus(cell.state));
+    object.cDrawBorder(painter, option.rect, object.cGetItemStatus(cell.state));
+}
+
 QImage painted(const Sheet &sheet, qreal scale)
 {
     const QSize size(sheet.columns * kCell.width(), sheet.cells.size() / sheet.columns * kCell.height());
@@ -79,18 +116,10 @@ QImage painted(const Sheet &sheet, qreal scale)
         painter->fillRect(
             QRect(QPoint(0, 0), size), Custom::getDataBaseColor(QStringLiteral("Custom_Window_Background")));
         for (int i = 0; i < sheet.cells.size(); ++i) {
-            QAbstractButton *button = sheet.cells[i].button.get();
-            QStyleOptionButton option;
-            option.initFrom(button);
-            option.state = sheet.cells[i].state;
-            option.rect = QRect(QPoint(0, 0), kPlace.size());
-            option.text = button->text();
-            option.icon = button->icon();
-            option.iconSize = QSize(16, 16);
             painter->save();
             painter->translate(
                 kPlace.topLeft() + QPoint(i % sheet.columns * kCell.width(), i / sheet.columns * kCell.height()));
-            dynamic_cast<CustomObject *>(button)->cDrawWidget(sheet.type, painter, option.rect, &option);
+            paintControl(painter, sheet, sheet.cells[i]);
             painter->restore();
         }
     };
@@ -131,7 +160,7 @@ void PicturesTest::everyStateInEverySkinThereAndBack()
 {
     QFETCH(int, scale);
     QVERIFY(apply(QStringLiteral("light")));
-    const QVector<Sheet> sheets{ pushButtons(), checkBoxes(), radioButtons() };
+    const QVector<Sheet> sheets{ pushButtons(), checkBoxes(), radioButtons(), boxes() };
     QMap<QString, QImage> first;
     QString failures;
     for (const QString &skin : { QStringLiteral("light"), QStringLiteral("dark"), QStringLiteral("light") }) {
