@@ -3,13 +3,19 @@
 /// \file
 /// Everything that the library offers.
 
+#include <Zanthic/CInterWidgetMenu.h>
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/Custom.h>
 #include <Zanthic/CustomCheckBox.h>
 #include <Zanthic/CustomFrame.h>
+#include <Zanthic/CustomGroupBox.h>
+#include <Zanthic/CustomLabel.h>
+#include <Zanthic/CustomLineWidget.h>
+#include <Zanthic/CustomMenu.h>
 #include <Zanthic/CustomObject.h>
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomQssHelper.h>
 #include <Zanthic/CustomRadioButton.h>
+#include <Zanthic/CustomTextEdit.h>
 #include <Zanthic/CustomWidget.h>
 #include <Zanthic/HotKeyEvent.h>
