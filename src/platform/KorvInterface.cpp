@@ -44,10 +44,8 @@ QString ask(QWidget *parent, const QString &caption, const Request &request)
     const QPointer<QFileDialog> dialog(new QFileDialog(parent, caption));
     prepare(dialog, request);
     const int result = dialog->exec();
-    if (!dialog)
-        return QString();
     QString chosen;
-    if (result == QDialog::Accepted) {
+    if (dialog && result == QDialog::Accepted) {
         chosen = dialog->selectedFiles().value(0);
         if (request.selectedFilter)
             *request.selectedFilter = dialog->selectedNameFilter();
