@@ -334,13 +334,20 @@ void CustomMainWindowPrivate::updateSkinParam()
     m_pFrame->cSetParameter(Custom::ParamColorRect, hasColorRect);
     if (q->cHasParameter(Custom::ParamBorderRadius)) {
         const Border current = border();
-        m_pTitleBar->cSetBorderRadius(current.radii[Custom::LeftTop].width(), Custom::LeftTop, Custom::Normal, {});
-        m_pTitleBar->cSetBorderRadius(current.radii[Custom::RightTop].width(), Custom::RightTop, Custom::Normal, {});
+        setTitleRadius(Custom::LeftTop, current.radii[Custom::LeftTop].width());
+        setTitleRadius(Custom::RightTop, current.radii[Custom::RightTop].width());
     }
     updateFrameMargins();
     if (m_bEnableScrollBar)
         styleScrollArea();
     m_pFrame->update();
+}
+
+void CustomMainWindowPrivate::setTitleRadius(Custom::BorderCorner corner, int radius)
+{
+    // Any value that is set makes the title bar lay itself out again.
+    if (!m_pTitleBar->cHasParameter(Custom::ParamBorderRadius) || m_pTitleBar->cBorderRadius(corner) != radius)
+        m_pTitleBar->cSetBorderRadius(radius, corner, Custom::Normal, {});
 }
 
 void CustomMainWindowPrivate::updateFrameMargins()

@@ -121,6 +121,7 @@ private:
     void fillButtonRow();
     void addToButtonRow(CustomPushButton *button);
     void updateFrameMargins();
+    void setTitleRadius(Custom::BorderCorner corner, int radius);
     void styleScrollArea();
     Border border() const;
     QString text(const char *key) const;

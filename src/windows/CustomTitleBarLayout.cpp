@@ -54,6 +54,7 @@ CustomTitleBarPrivate::CustomTitleBarPrivate(CustomTitleBar *owner)
     m_pTitleLabel = new CustomLabel(owner);
     m_pTitleLabel->setTextFormat(Qt::PlainText); // it comes from users and file names
     m_pStayOnTopButton->hide(); // as m_fControls says at start
+    createLines();
     m_pMenuLayout = newRow();
     m_pToolLayout = newRow();
     m_pCustomLayout = newRow();
@@ -72,6 +73,20 @@ CustomTitleBarPrivate::~CustomTitleBarPrivate()
 CustomTitleBarPrivate *CustomTitleBarPrivate::get(const CustomTitleBar *bar)
 {
     return bar->d.get();
+}
+
+void CustomTitleBarPrivate::createLines()
+{
+    m_pMenuLine = newLine(
+        CustomLineWidget::VerticalLine, QStringLiteral("DB_COLOR_Custom_TitleBarLine_Background_V"), MenuLine_Size);
+    m_pMenuLine->cSetIsDottedLine(false);
+    m_pMenuLine->hide();
+    m_pRowLine = newLine(
+        CustomLineWidget::HorizontalLine, QStringLiteral("DB_COLOR_Custom_TitleBarLine_Background_H"), RowLine_Size);
+    QSizePolicy policy;
+    policy.setControlType(QSizePolicy::DefaultType);
+    m_pRowLine->setSizePolicy(policy);
+    m_pRowLine->hide();
 }
 
 void CustomTitleBarPrivate::connectButtons()
@@ -166,8 +181,8 @@ void CustomTitleBarPrivate::dismantleLayout()
         delete m_pStretch;
         m_pStretch = nullptr;
     }
-    delete m_pLine;
-    m_pLine = nullptr;
+    m_pMenuLine->hide();
+    m_pRowLine->hide();
 }
 
 void CustomTitleBarPrivate::initLayout()
@@ -206,11 +221,8 @@ void CustomTitleBarPrivate::layOutCustomTitle(QBoxLayout *root, int left, int ri
     root->setContentsMargins(left, 0, right, 0);
     root->addLayout(m_pCustomLayout);
     root->addLayout(m_pMenuLayout);
-    m_pLine = newLine(
-        CustomLineWidget::VerticalLine, QStringLiteral("DB_COLOR_Custom_TitleBarLine_Background_V"), MenuLine_Size);
-    m_pLine->cSetIsDottedLine(false);
-    root->addWidget(m_pLine);
-    m_pLine->setVisible(m_bHasMenu);
+    root->addWidget(m_pMenuLine);
+    m_pMenuLine->setVisible(m_bHasMenu);
     addWindowButtons(root, spacing);
 }
 
@@ -249,12 +261,8 @@ void CustomTitleBarPrivate::layOutStandardTitle(QBoxLayout *root, int left, int 
 void CustomTitleBarPrivate::layOutToolRow(QBoxLayout *column)
 {
     column->addSpacing(RowLine_Spacing);
-    m_pLine = newLine(
-        CustomLineWidget::HorizontalLine, QStringLiteral("DB_COLOR_Custom_TitleBarLine_Background_H"), RowLine_Size);
-    QSizePolicy policy;
-    policy.setControlType(QSizePolicy::DefaultType);
-    m_pLine->setSizePolicy(policy);
-    column->addWidget(m_pLine);
+    column->addWidget(m_pRowLine);
+    m_pRowLine->show();
     column->addSpacing(RowLine_Spacing);
     QHBoxLayout *row = newRow();
     row->addSpacing(ToolRow_Indent);
@@ -301,8 +309,8 @@ CustomPushButton *CustomTitleBarPrivate::addMenu(const QString &text, CustomMenu
     m_pMenuLayout->insertWidget(position, button);
     m_pMenuLayout->insertSpacing(position + 1, MenuButton_Spacing);
     m_bHasMenu = true;
-    if (m_bTitleIsCustom && m_pLine)
-        m_pLine->show();
+    if (m_pCustomTitleLayout)
+        m_pMenuLine->show();
     return button;
 }
 

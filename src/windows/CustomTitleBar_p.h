@@ -69,6 +69,7 @@ public:
     QString m_strTitle;
 
 private:
+    void createLines();
     void connectButtons();
     void dismantleLayout();
     void layOutCustomTitle(QBoxLayout *root, int left, int right, int spacing);
@@ -82,5 +83,7 @@ private:
     int number(const char *key) const;
 
     QLayoutItem *m_pStretch = nullptr; // the bar's own, at the end of the row of menus
-    CustomLineWidget *m_pLine = nullptr; // between the rows or before the window buttons
+    // Kept from one layout to the next: a rebuild may run inside the line's own show.
+    CustomLineWidget *m_pMenuLine; // before the window buttons of the custom layout
+    CustomLineWidget *m_pRowLine; // between the rows of the standard layout
 };

@@ -305,9 +305,9 @@ CMessageBoxScrollText *CustomMessageBoxPrivate::newText(
 int CustomMessageBoxPrivate::addIcon(QHBoxLayout *row, int titleWidth, int width)
 {
     const QString path = iconPath(m_eHintStyle);
-    if (path.isEmpty())
+    const QPixmap picture = path.isEmpty() ? QPixmap() : StyleImages::pixmap(path);
+    if (picture.isNull())
         return width;
-    const QPixmap picture = StyleImages::pixmap(path);
     const int pictureWidth = qRound(picture.width() / picture.devicePixelRatio());
     const int spacing = qMax((width - 1 - titleWidth - Icon_TextGap - pictureWidth) / 2, 0);
     auto *icon = new CustomPushButton(this, CustomPushButton::Default);
