@@ -7,9 +7,11 @@
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/Custom.h>
 #include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomFolderSelectWidget.h>
 #include <Zanthic/CustomFrame.h>
 #include <Zanthic/CustomGroupBox.h>
 #include <Zanthic/CustomLabel.h>
+#include <Zanthic/CustomLineEdit.h>
 #include <Zanthic/CustomLineWidget.h>
 #include <Zanthic/CustomMainWindow.h>
 #include <Zanthic/CustomMenu.h>
@@ -18,7 +20,9 @@
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomQssHelper.h>
 #include <Zanthic/CustomRadioButton.h>
+#include <Zanthic/CustomSelectWidget.h>
 #include <Zanthic/CustomTextEdit.h>
 #include <Zanthic/CustomTitleBar.h>
+#include <Zanthic/CustomToolTip.h>
 #include <Zanthic/CustomWidget.h>
 #include <Zanthic/HotKeyEvent.h>

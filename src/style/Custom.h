@@ -10,6 +10,7 @@
 #include <QtGui/QBrush>
 #include <QtGui/QColor>
 #include <QtGui/QPainterPath>
+#include <QtWidgets/QFileDialog>
 
 QT_BEGIN_NAMESPACE
 class QDomElement;
@@ -227,6 +228,23 @@ ZANTHIC_EXPORT QString version(); ///< the version and the date of the build, as
 ZANTHIC_EXPORT QLayout *createLayout(Qt::Orientation orientation);
 /// Takes \p child out of \p layout or of any layout nested in it. \p child isn't deleted.
 ZANTHIC_EXPORT void removeChildLayoutItem(QLayout *layout, QLayout *child);
+/// \}
+
+/// \name File dialogs
+/// They block until the dialog is closed, and give an empty text when it is cancelled. Choosing a directory that can't
+/// be written brings up a warning; the choice is returned all the same.
+/// \{
+/// Asks for a directory, starting in \p dir, and gives its path.
+ZANTHIC_EXPORT QString getExistingDirectory(QWidget *parent = nullptr, const QString &caption = QString(),
+    const QString &dir = QString(), QFileDialog::Options options = QFileDialog::ShowDirsOnly);
+/// Asks for the name of a file to save, starting in \p dir with \p initialName filled in, and gives its path.
+/// A name that ends neither in \p suffix nor in one of \p suffixes gets \p suffix; a leading "." of a suffix may be
+/// left out, case counts. An empty \p suffix leaves the name alone. \p selectedFilter, which may be null, holds the
+/// name filter that is chosen, at start and at the end.
+ZANTHIC_EXPORT QString getSaveFileName(QWidget *parent = nullptr, const QString &caption = QString(),
+    const QString &dir = QString(), const QString &filter = QString(), const QString &initialName = QString(),
+    const QString &suffix = QString(), const QStringList &suffixes = QStringList(), QString *selectedFilter = nullptr,
+    QFileDialog::Options options = QFileDialog::Options());
 /// \}
 
 /// \name Border geometry
