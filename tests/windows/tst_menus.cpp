@@ -129,9 +129,14 @@ private Q_SLOTS:
         const QImage image = painted(&menu, fields[1]);
         QCOMPARE(boundsOf(image, Qt::red), rectIn(fields[2]));
         // A primitive is drawn in the palette's dark colours, within the place that an image would have.
-        const QRect drawn = Probe::bounds(image, [](const QColor &found) { return found.lightness() < 100; });
+        const auto isDark = [](const QColor &found) { return found.lightness() < 100; };
+        const QRect drawn = Probe::bounds(image, isDark);
         QCOMPARE(drawn.isEmpty(), fields[3].isEmpty());
         QVERIFY(drawn.isEmpty() || rectIn(fields[3]).contains(drawn));
+        if (fields[0].isEmpty() && fields[1].contains("submenu"_s)) { // the tip is at the low side
+            const auto heightAt = [&](int x) { return Probe::bounds(image.copy(x, 0, 1, 30), isDark).height(); };
+            QCOMPARE(heightAt(drawn.left()) < heightAt(drawn.right()), fields[1].contains("right-to-left"_s));
+        }
     }
 
     void iconStandsInItsColumn()
