@@ -11,11 +11,14 @@
 #include <Zanthic/CustomGroupBox.h>
 #include <Zanthic/CustomLabel.h>
 #include <Zanthic/CustomLineWidget.h>
+#include <Zanthic/CustomMainWindow.h>
 #include <Zanthic/CustomMenu.h>
+#include <Zanthic/CustomMessageBox.h>
 #include <Zanthic/CustomObject.h>
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomQssHelper.h>
 #include <Zanthic/CustomRadioButton.h>
 #include <Zanthic/CustomTextEdit.h>
+#include <Zanthic/CustomTitleBar.h>
 #include <Zanthic/CustomWidget.h>
 #include <Zanthic/HotKeyEvent.h>

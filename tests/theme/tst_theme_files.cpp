@@ -4,6 +4,7 @@
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/ZanthicTheme.h>
 
+#include <QtCore/QDirIterator>
 #include <QtCore/QRegularExpression>
 #include <QtXml/QDomDocument>
 
@@ -91,6 +92,18 @@ void readIndicator(const QImage &image, QColor *edge, double *markContrast)
     const QColor fill = image.pixelColor(x + kFillOffset, y);
     for (int column = x + kFillOffset; column < image.width() - x - kFillOffset; ++column)
         *markContrast = std::max(*markContrast, contrast(over(image.pixelColor(column, y), fill), fill));
+}
+
+// The most that a pixel of a button's picture stands out from its ground, which is that at the middle of the left edge.
+double markContrast(const QImage &image, const QColor &page)
+{
+    const QColor ground = over(image.pixelColor(0, image.height() / 2), page);
+    double result = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            result = std::max(result, contrast(over(image.pixelColor(x, y), page), ground));
+    }
+    return result;
 }
 
 } // namespace
@@ -255,6 +268,55 @@ private Q_SLOTS:
                 checkIndicator(host, status, part);
         }
         QCOMPARE(QSet<QByteArray>(m_lstLooks.begin(), m_lstLooks.end()).size(), m_lstLooks.size());
+    }
+
+    void imageButtonsReadWell_data()
+    {
+        CaseFile::addRows("image-buttons", { "outer", "selectors", "height", "pages" });
+    }
+    void imageButtonsReadWell()
+    {
+        const auto statuses = { Custom::Normal, Custom::Hover, Custom::Pressed, Custom::Disabled };
+        for (const QString &skin : ZanthicTheme::skins()) {
+            QVERIFY(ZanthicTheme::applySkin(skin));
+            for (const QString &selector : CaseFile::list("selectors")) {
+                StyleHost host("CustomPushButton"_s, selector);
+                host.cSetParentClassName(cell("outer"));
+                QVERIFY(host.cHasParameter(Custom::ParamBackgroundImage));
+                QSet<QByteArray> looks;
+                for (Custom::ItemStatus status : statuses) {
+                    const QString path = host.cBackgroundImage(status);
+                    looks += bytes(path);
+                    QCOMPARE(QImage(path).size(), QSize(32, int(CaseFile::number("height"))));
+                    for (const QString &page : CaseFile::list("pages")) {
+                        const double mark = markContrast(QImage(path), skinColor(page));
+                        QVERIFY2(status == Custom::Disabled || mark >= kIndicatorContrast, qPrintable(path));
+                    }
+                }
+                QCOMPARE(looks.size(), int(statuses.size()));
+            }
+        }
+    }
+
+    void whatTheCodeAsksForIsThere()
+    {
+        const QRegularExpression form("\"(DB_COLOR_\\w+|Custom_\\w+|:/Zanthic/\\S+\\.\\w+)\""_s);
+        QStringList names;
+        for (QDirIterator it(QStringLiteral(ZANTHIC_TEST_DATA "/../../src"), { "*.cpp"_s, "*.h"_s }, QDir::Files,
+                 QDirIterator::Subdirectories);
+             it.hasNext();) {
+            for (auto match = form.globalMatch(QString::fromUtf8(bytes(it.next()))); match.hasNext();)
+                names += match.next().captured(1);
+        }
+        QVERIFY(!names.isEmpty());
+        for (const QString &skin : ZanthicTheme::skins()) {
+            QVERIFY(ZanthicTheme::applySkin(skin));
+            for (const QString &name : qAsConst(names)) {
+                const bool isThere = name.startsWith(':') ? QFile::exists(name)
+                                                          : Custom::getDataBaseColor(name).style() == Qt::SolidPattern;
+                QVERIFY2(isThere, qPrintable(name));
+            }
+        }
     }
 
     void sheetColorsReadWell_data() { CaseFile::addRows("contrasts", { "front", "backs", "ratio" }); }

@@ -1,0 +1,132 @@
+#include "windows/WindowGeometry_p.h"
+
+#include <Zanthic/Custom.h>
+
+#include <QtGui/QBitmap>
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+
+namespace {
+
+using Window = CustomMainWindow;
+
+// Counted from the outermost pixel of the edge.
+constexpr int Band_RightBottom = 9;
+constexpr int Band_LeftTop = 10;
+
+// Window systems end well before; a bitmap of a larger size would only cost memory.
+constexpr int kMaxExtent = 32767;
+constexpr int kMaxPixels = 64 * 1024 * 1024;
+
+constexpr int kLeftEdges = Window::StrechLeft | Window::StrechTopLeft | Window::StrechBottomLeft;
+constexpr int kRightEdges = Window::StrechRight | Window::StrechTopRight | Window::StrechBottomRight;
+constexpr int kTopEdges = Window::StrechTop | Window::StrechTopLeft | Window::StrechTopRight;
+constexpr int kBottomEdges = Window::StrechBottom | Window::StrechBottomLeft | Window::StrechBottomRight;
+
+/// One of the two horizontal bands: its edge, and the corners at its ends, which come before it.
+struct Band
+{
+    Window::StrechEdge edge;
+    Window::StrechEdge left;
+    Qt::CursorShape leftCursor;
+    Window::StrechEdge right;
+    Qt::CursorShape rightCursor;
+};
+
+constexpr Band kBottom{ Window::StrechBottom, Window::StrechBottomLeft, Qt::SizeBDiagCursor, Window::StrechBottomRight,
+    Qt::SizeFDiagCursor };
+constexpr Band kTop{ Window::StrechTop, Window::StrechTopLeft, Qt::SizeFDiagCursor, Window::StrechTopRight,
+    Qt::SizeBDiagCursor };
+
+WindowGeometry::Zone zoneInBand(const Band &band, bool atRight, bool atLeft, WindowGeometry::Edges edges)
+{
+    if (atRight && edges.testFlag(band.right))
+        return { band.right, band.rightCursor };
+    if (!atRight && atLeft && edges.testFlag(band.left))
+        return { band.left, band.leftCursor };
+    if (edges.testFlag(band.edge))
+        return { band.edge, Qt::SizeVerCursor };
+    return {};
+}
+
+int clamped(int value, int low, int high)
+{
+    return qMax(low, qMin(value, high));
+}
+
+} // namespace
+
+WindowGeometry::Zone WindowGeometry::zoneAt(const QPoint &position, const QRect &frame, Edges edges)
+{
+    if (!frame.contains(position))
+        return {};
+    const bool atRight = position.x() >= frame.right() - Band_RightBottom;
+    const bool atLeft = !atRight && position.x() <= frame.left() + Band_LeftTop;
+    if (position.y() >= frame.bottom() - Band_RightBottom)
+        return zoneInBand(kBottom, atRight, atLeft, edges);
+    if (position.y() <= frame.top() + Band_LeftTop)
+        return zoneInBand(kTop, atRight, atLeft, edges);
+    if (atRight && edges.testFlag(Window::StrechRight))
+        return { Window::StrechRight, Qt::SizeHorCursor };
+    if (atLeft && edges.testFlag(Window::StrechLeft))
+        return { Window::StrechLeft, Qt::SizeHorCursor };
+    return {};
+}
+
+QRect WindowGeometry::stretched(const QRect &start, int edge, const QPoint &delta, const QSize &minimum)
+{
+    QRect result = start;
+    if (edge & kLeftEdges)
+        result.setLeft(qMin(start.left() + delta.x(), start.right() - minimum.width()));
+    else if (edge & kRightEdges)
+        result.setRight(start.left() + qMax(start.width() + delta.x(), minimum.width()) - 1);
+    if (edge & kTopEdges)
+        result.setTop(qMin(start.top() + delta.y(), start.bottom() - minimum.height()));
+    else if (edge & kBottomEdges)
+        result.setBottom(start.top() + qMax(start.height() + delta.y(), minimum.height()) - 1);
+    return result;
+}
+
+QPoint WindowGeometry::strechDelta(const QPoint &start, const QPoint &position, const QRect &area)
+{
+    return QPoint(clamped(position.x(), area.left(), area.right()) - start.x(),
+        clamped(position.y(), area.top(), area.bottom()) - start.y());
+}
+
+QMargins WindowGeometry::shadowMargins(const QPointF &offset, float blurRadius)
+{
+    const double radius = double(blurRadius * 0.5f);
+    return QMargins(
+        int(radius - offset.x()), int(radius - offset.y()), int(radius + offset.x()), int(radius + offset.y()));
+}
+
+QMargins WindowGeometry::borderMargins(const std::array<int, 4> &borders, bool rounded)
+{
+    const int extra = rounded ? 1 : 0;
+    return QMargins(extra + borders[Custom::Left], borders[Custom::Top], extra + borders[Custom::Right],
+        extra + borders[Custom::Bottom]);
+}
+
+QRect WindowGeometry::residual(const QRect &titleBar, int frameWidth)
+{
+    QRect result = titleBar;
+    result.setLeft(0);
+    result.setRight(frameWidth - 1);
+    return result;
+}
+
+QRegion WindowGeometry::mask(const QSize &size, const std::array<int, 4> &borders, const std::array<QSize, 4> &radii)
+{
+    if (size.isEmpty() || size.width() > kMaxExtent || size.height() > kMaxExtent
+        || qint64(size.width()) * size.height() > kMaxPixels)
+        return QRegion();
+    QBitmap bitmap(size);
+    bitmap.fill(Qt::white);
+    QPainter painter(&bitmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.fillPath(Custom::cBorderClip(QRect(QPoint(0, 0), size), borders.data(), radii.data()),
+        QBrush(Qt::black, Qt::SolidPattern));
+    painter.end();
+    return QRegion(bitmap);
+}
