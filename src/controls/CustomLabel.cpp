@@ -77,6 +77,14 @@ void CustomLabel::cNotifyUpdateValue(const QString &key, const QString &value, C
     }
 }
 
+bool CustomLabel::event(QEvent *event)
+{
+    // Before the first show. Without this, a label looks as the theme says only once the pointer has been there.
+    if (event->type() == QEvent::Polish)
+        setInfo(this, Custom::Normal);
+    return QLabel::event(event);
+}
+
 void CustomLabel::paintEvent(QPaintEvent *event)
 {
     // Stays open while QLabel paints over the border: within a paint event both share the window's painter.
