@@ -79,8 +79,9 @@ void CustomLabel::cNotifyUpdateValue(const QString &key, const QString &value, C
 
 bool CustomLabel::event(QEvent *event)
 {
-    // Before the first show. Without this, a label looks as the theme says only once the pointer has been there.
-    if (event->type() == QEvent::Polish)
+    // Before the first show, where the theme would show only once the pointer has been there, and after Qt's style
+    // sheets have put the palette back that they had found.
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
         setInfo(this, Custom::Normal);
     return QLabel::event(event);
 }
