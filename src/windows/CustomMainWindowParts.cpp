@@ -100,6 +100,7 @@ void CustomMainWindowPrivate::createParts()
     m_pSplitLine->cSetBackgroundColor(QStringLiteral("DB_COLOR_Custom_BarLine_Background"), Custom::Normal, {});
 
     m_pButtonBar = new CustomWidget(q);
+    m_pButtonBar->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_pContentWidget = new QWidget(q);
     m_pScrollArea = new QScrollArea(q);
     m_pScrollArea->hide();
