@@ -237,7 +237,11 @@ void CustomMainWindowPrivate::resetCentralWidget(QWidget *widget)
     if (!widget)
         return;
     if (m_bEnableScrollBar) {
+        // A scroll area makes its content paint Qt's own background, which belongs to no skin.
+        const bool fills = widget->autoFillBackground();
         m_pScrollArea->setWidget(widget);
+        widget->setAutoFillBackground(fills);
+        m_pScrollArea->viewport()->setAutoFillBackground(false);
         return;
     }
     if (m_pCentralWidget && m_pCentralWidget != widget && m_pCentralWidget->parentWidget() == m_pContentWidget)
