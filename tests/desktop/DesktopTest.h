@@ -54,7 +54,8 @@ public:
     {
         const auto n = numbersIn(tool(QStringLiteral("getwindowgeometry %1").arg(window.winId())));
         const QRect place = n.size() < 6 ? QRect() : QRectF(n[1], n[2], n[4], n[5]).toRect();
-        return place == window.geometry() ? place : QRect();
+        const QRect known(window.mapToGlobal(QPoint(0, 0)), window.size());
+        return place == window.geometry() && place == known ? place : QRect();
     }
     static Qt::CursorShape cursorShape()
     {

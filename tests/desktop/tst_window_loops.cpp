@@ -35,8 +35,13 @@ int ask(QWidget *parent, const std::function<void(CustomMessageBox *)> &drive)
 {
     int result = -2;
     const auto open = [&] { result = CustomMessageBox::askYesNo(parent, QStringLiteral("Text")); };
+    const auto settle = [&] {
+        CustomMessageBox *box = activeBox();
+        QTRY_VERIFY(parent->geometry().contains(DesktopTest::placeOf(*box)));
+        drive(box);
+    };
     DesktopTest::during(
-        open, [] { return activeBox() != nullptr; }, [&] { drive(activeBox()); });
+        open, [] { return activeBox() != nullptr; }, settle);
     return QTest::qWaitForWindowActive(parent) ? result : -3;
 }
 
