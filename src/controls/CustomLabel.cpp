@@ -79,11 +79,9 @@ void CustomLabel::cNotifyUpdateValue(const QString &key, const QString &value, C
 
 void CustomLabel::paintEvent(QPaintEvent *event)
 {
-    {
-        // Closed before QLabel opens its own: a window's surface takes one painter at a time.
-        QPainter painter(this);
-        cDrawBorder(&painter, QRect(0, 0, width(), height()), Custom::Normal, {});
-    }
+    // Stays open while QLabel paints over the border: within a paint event both share the window's painter.
+    QPainter painter(this);
+    cDrawBorder(&painter, QRect(0, 0, width(), height()), Custom::Normal, {});
     QLabel::paintEvent(event);
 }
 

@@ -19,7 +19,7 @@ public:
     ~CustomLineWidget() override;
 
     /// Dashes that are three times as long as the line is thick, with gaps of twice its thickness. A line that is
-    /// thicker than long shows nothing then.
+    /// thicker than long has room for none and stays solid.
     void cSetIsDottedLine(bool dotted);
     void cSetLineType(LineType type);
 
