@@ -77,6 +77,15 @@ void CustomLabel::cNotifyUpdateValue(const QString &key, const QString &value, C
     }
 }
 
+bool CustomLabel::event(QEvent *event)
+{
+    // Before the first show, where the theme would show only once the pointer has been there, and after Qt's style
+    // sheets have put the palette back that they had found.
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+        setInfo(this, Custom::Normal);
+    return QLabel::event(event);
+}
+
 void CustomLabel::paintEvent(QPaintEvent *event)
 {
     // Stays open while QLabel paints over the border: within a paint event both share the window's painter.

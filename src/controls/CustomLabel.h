@@ -5,8 +5,9 @@
 #include <QtWidgets/QLabel>
 
 /// A themed text or picture with a border underneath it, painted by QLabel. It takes two looks from the theme: that of
-/// Custom::Hover while the pointer is over it, and that of Custom::Normal after the pointer has left, after a change
-/// of selector or skin, and as soon as one of its values is set. It doesn't show Pressed and Disabled.
+/// Custom::Hover while the pointer is over it, and that of Custom::Normal at its first show, after the pointer has
+/// left, after a change of selector or skin, and as soon as one of its values is set. It doesn't show Pressed and
+/// Disabled.
 class ZANTHIC_EXPORT CustomLabel : public QLabel, public CustomObject
 {
     Q_OBJECT
@@ -32,6 +33,7 @@ Q_SIGNALS:
     void clicked();
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void enterEvent(QEvent *event) override;
     void leaveEvent(QEvent *event) override;

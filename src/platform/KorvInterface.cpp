@@ -69,7 +69,7 @@ QString KorvInterface::getExistingDirectory(
     request.mode = QFileDialog::Directory;
     request.start = dir;
     request.options = options;
-    const QString chosen = ask(parent, caption, request);
+    QString chosen = ask(parent, caption, request);
     if (!chosen.isEmpty())
         refuseUnwritable(chosen, supported);
     return chosen;
@@ -86,7 +86,7 @@ QString KorvInterface::getSaveFileName(QWidget *parent, const QString &caption, 
     request.filter = filter;
     request.selectedFilter = selectedFilter;
     request.options = options;
-    const QString chosen = ask(parent, caption, request);
+    QString chosen = ask(parent, caption, request);
     if (!chosen.isEmpty())
         refuseUnwritable(QFileInfo(chosen).path(), supported);
     return chosen;

@@ -24,6 +24,8 @@ QFont itemFont(const CustomMenu &menu)
     QFont font(family);
     if (size > 0)
         font.setPixelSize(size);
+    else if (menu.font().pixelSize() > 0)
+        font.setPixelSize(menu.font().pixelSize());
     else
         font.setPointSizeF(menu.font().pointSizeF());
     return font;

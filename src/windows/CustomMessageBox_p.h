@@ -31,6 +31,7 @@ public:
     void wordWrapString(int width);
     void fit(); ///< takes the size of its lines
     void setTextColor(const QString &name); ///< a skin colour
+    void setLinkText(const QString &text); ///< \p text with its links in the text's colour
 
     bool m_bWrapped = false;
     int m_nLineHeight;
@@ -45,6 +46,7 @@ private:
     void applyTextColor();
 
     QString m_strTextColor;
+    QString m_strLinkText;
 };
 
 /// A text that scrolls when it is higher than its place.
@@ -101,5 +103,5 @@ private:
     QHBoxLayout *layOutContent(const QFont &font);
     /// Adds the icon, if there is one, and gives the width that is left for the title.
     int addIcon(QHBoxLayout *row, int titleWidth, int width);
-    static void fitToLink(CMessageBoxLabel *label, int link, const QFontMetrics &metrics);
+    static void fitToLink(CMessageBoxLabel *label, int widthBefore);
 };

@@ -9,6 +9,7 @@
 #include <QtGui/QBitmap>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDesktopWidget>
 #include <QtWidgets/QStyle>

@@ -147,10 +147,15 @@ void CMessageBoxLabel::setTextColor(const QString &name)
 void CMessageBoxLabel::applyTextColor()
 {
     m_oTextColor = Custom::getDataBaseColor(m_strTextColor).color();
-    QPalette colors = palette();
-    colors.setColor(QPalette::Link, m_oTextColor);
-    colors.setColor(QPalette::LinkVisited, m_oTextColor);
-    setPalette(colors);
+    if (!m_strLinkText.isEmpty())
+        setLinkText(m_strLinkText);
+}
+
+void CMessageBoxLabel::setLinkText(const QString &text)
+{
+    m_strLinkText = text;
+    // Links take the application's colour as they are read, whatever the label's palette says.
+    setText(QStringLiteral("<style>a { color: %1 }</style>").arg(m_oTextColor.name()) + text);
 }
 
 void CMessageBoxLabel::customEvent(QEvent *event)
@@ -345,7 +350,9 @@ QHBoxLayout *CustomMessageBoxPrivate::layOutContent(const QFont &font)
     const QSize size(width(), Content_Height);
     const int link = m_bOpenExternalLinks ? m_strContent.indexOf(QLatin1String("href")) : -1;
     if (link >= 0) {
-        fitToLink(area->label(), link, QFontMetrics(this->font()));
+        const QString before = m_strContent.mid(0, link - Link_TagLength);
+        fitToLink(area->label(), QFontMetrics(this->font()).boundingRect(before).width() + Text_Slack);
+        area->label()->setLinkText(m_strContent);
         area->setFixedSize(size);
     } else {
         area->place(size);
@@ -355,12 +362,11 @@ QHBoxLayout *CustomMessageBoxPrivate::layOutContent(const QFont &font)
     return row;
 }
 
-void CustomMessageBoxPrivate::fitToLink(CMessageBoxLabel *label, int link, const QFontMetrics &metrics)
+void CustomMessageBoxPrivate::fitToLink(CMessageBoxLabel *label, int widthBefore)
 {
     label->setWordWrap(true);
     label->adjustSize();
-    const int width = metrics.boundingRect(label->text().mid(0, link - Link_TagLength)).width() + Text_Slack;
-    label->setFixedSize(Link_Width, width / Link_Width * Content_LineHeight + Link_ExtraHeight);
+    label->setFixedSize(Link_Width, widthBefore / Link_Width * Content_LineHeight + Link_ExtraHeight);
 }
 
 void CustomMessageBoxPrivate::placePanel(CustomMessageBox *box)

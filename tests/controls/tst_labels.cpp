@@ -43,6 +43,7 @@ private:
     }
 
 private Q_SLOTS:
+    void looksAsTheThemeSaysFromTheStart();
     void linesFillTheWidgetAcross_data() { addRowsOf("controls/lines.txt"_s); }
     void linesFillTheWidgetAcross()
     {
@@ -184,6 +185,23 @@ private Q_SLOTS:
         QCOMPARE(box.styleSheet(), "QGroupBox{}"_s);
     }
 };
+
+void LabelsTest::looksAsTheThemeSaysFromTheStart()
+{
+    addStyle("CustomLabel", QStringLiteral("FontColor=#ff0000"));
+    QWidget other;
+    other.setStyleSheet(QStringLiteral("QLabel { margin: 1px }"));
+    QScrollArea area;
+    area.setStyleSheet(QStringLiteral("QScrollBar { width: 9px }"));
+    auto *label = new CustomLabel(QStringLiteral("Text"));
+    area.setWidget(label);
+    area.show();
+    QCOMPARE(label->palette().color(label->foregroundRole()), QColor(Qt::red));
+    // Qt takes the palette back from which it started when it polishes for another style sheet.
+    label->cSetFontColor(QStringLiteral("#00ff00"));
+    area.setParent(&other);
+    QCOMPARE(label->palette().color(label->foregroundRole()), QColor(Qt::green));
+}
 
 ZANTHIC_TEST_MAIN(LabelsTest)
 #include "tst_labels.moc"
