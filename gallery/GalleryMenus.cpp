@@ -69,9 +69,8 @@ void GalleryMenus::addView()
     menu->addSeparator();
     add(menu, QT_TR_NOOP("Next skin"), control(Qt::Key_T), [this] { m_pAppearance->nextSkin(); });
     add(menu, QT_TR_NOOP("Next language"), control(Qt::Key_L), [this] { m_pAppearance->nextLanguage(); });
-    m_pEnabled = add(menu, QT_TR_NOOP("Page enabled"), control(Qt::Key_E),
+    add(menu, QT_TR_NOOP("Enable or disable the page"), control(Qt::Key_E),
         [this] { m_pWindow->setPageEnabled(!m_pWindow->isPageEnabled()); });
-    m_pEnabled->setCheckable(true);
 }
 
 void GalleryMenus::addHelp()
@@ -148,5 +147,4 @@ void GalleryMenus::showChoices()
     check(m_pSkins, m_pAppearance->skin());
     check(m_pLanguages, m_pAppearance->language());
     check(m_pPages, m_pWindow->pageName());
-    m_pEnabled->setChecked(m_pWindow->isPageEnabled());
 }

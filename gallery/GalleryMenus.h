@@ -51,5 +51,4 @@ private:
     QActionGroup *m_pPages = nullptr;
     QActionGroup *m_pSkins = nullptr;
     QActionGroup *m_pLanguages = nullptr;
-    QAction *m_pEnabled = nullptr;
 };

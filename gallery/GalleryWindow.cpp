@@ -26,7 +26,7 @@
 
 namespace {
 
-constexpr QSize StartSize(1216, 840);
+constexpr QSize StartSize(1264, 840);
 constexpr QSize SmallestSize(1024, 480); // by stretching
 constexpr CustomMainWindow::StrechEdges AllEdges(255);
 constexpr QSize Caption_Size(160, 32);
@@ -256,24 +256,26 @@ void GalleryWindow::showAbout()
 
 QPixmap GalleryWindow::picture()
 {
-    // The window finishes itself when it is shown.
+    // The window finishes itself when it is shown. As a child of what stays hidden, it doesn't appear.
     const bool wasVisible = isVisible();
+    const Qt::WindowFlags flags = windowFlags();
+    QWidget host;
     if (!wasVisible) {
-        setAttribute(Qt::WA_DontShowOnScreen);
+        setParent(&host);
         show();
     }
     // A page may wrap its texts differently once the scroll bar is gone, hence the second turn.
     for (int turn = 0; turn < 2 && m_pPage; ++turn) {
         QCoreApplication::sendPostedEvents();
+        grab(QRect(0, 0, 1, 1)); // lays out a window that isn't shown, too
         const int needed
             = qMax(m_pPage->heightForWidth(m_pScrollArea->viewport()->width()), m_pPage->minimumSizeHint().height());
-        resize(width(), height() + needed - m_pScrollArea->viewport()->height());
+        const int change = needed - m_pScrollArea->viewport()->height();
+        resize(width(), qMax(height() + change, minimumSizeHint().height()));
     }
     const QPixmap all = Snapshot::rounded(grab(), cBorderRadius(Custom::AllCorner));
-    if (!wasVisible) {
-        hide();
-        setAttribute(Qt::WA_DontShowOnScreen, false);
-    }
+    if (!wasVisible)
+        setParent(nullptr, flags);
     return all;
 }
 

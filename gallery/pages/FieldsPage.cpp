@@ -114,6 +114,7 @@ void FieldsPage::addTextEdits()
         edit->cNotifyUpdateValue({}, {}, Custom::Normal); // its sheet is made anew only with a value
         edit->setFixedHeight(TextEdit_Height);
         auto *column = new QVBoxLayout;
+        column->setSpacing(8);
         column->addWidget(edit);
         column->addWidget(plainText(QString::fromLatin1(names.key(i)), TextLabel::Caption), 0, Qt::AlignHCenter);
         edits->addLayout(column);

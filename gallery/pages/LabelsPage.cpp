@@ -15,10 +15,18 @@ namespace {
 
 constexpr int Label_Height = 32;
 constexpr int Elided_Width = 240;
-constexpr int Line_Length = 160;
+constexpr int Line_Length = 112;
 constexpr int Line_Height = 56;
 constexpr QSize Dark_Size(160, 40);
 constexpr int GroupBox_Width = 280;
+
+/// A label that has taken its look already, and not only once the pointer has left it.
+CustomLabel *newLabel(QWidget *parent, const char *selector = "Default")
+{
+    auto *label = new CustomLabel(parent);
+    label->cSetStyleSelector(QLatin1String(selector));
+    return label;
+}
 
 CustomLabel *withBox(CustomLabel *label)
 {
@@ -62,18 +70,16 @@ void LabelsPage::addLooks()
 {
     Card *card
         = addCard(QT_TR_NOOP("Looks"), QT_TR_NOOP("A label has a look of its own while the pointer is over it."));
-    auto *plain = translated(new CustomLabel(this), QT_TR_NOOP("Plain text"));
-    auto *quiet = translated(new CustomLabel(this), QT_TR_NOOP("Quiet text"));
-    quiet->cSetStyleSelector(QStringLiteral("GrayWhite"));
+    auto *plain = translated(newLabel(this), QT_TR_NOOP("Plain text"));
+    auto *quiet = translated(newLabel(this, "GrayWhite"), QT_TR_NOOP("Quiet text"));
     auto *dark = new CustomFrame(this);
     dark->cSetStyleSelector(QStringLiteral("DarkBlack"));
     dark->setFixedSize(Dark_Size);
-    auto *strong = translated(new CustomLabel(dark), QT_TR_NOOP("Strong text"));
-    strong->cSetStyleSelector(QStringLiteral("DarkBlack"));
+    auto *strong = translated(newLabel(dark, "DarkBlack"), QT_TR_NOOP("Strong text"));
     strong->setAlignment(Qt::AlignCenter);
     (new QVBoxLayout(dark))->addWidget(strong);
-    auto *framed = withBox(translated(new CustomLabel(this), QT_TR_NOOP("With a border")));
-    auto *hovered = withBox(translated(new CustomLabel(this), QT_TR_NOOP("Point at me")));
+    auto *framed = withBox(translated(newLabel(this), QT_TR_NOOP("With a border")));
+    auto *hovered = withBox(translated(newLabel(this), QT_TR_NOOP("Point at me")));
     hovered->cSetFontColor(SkinColor::Text);
     hovered->cSetFontColor(SkinColor::SelectionText, Custom::Hover);
     hovered->cSetBackgroundColor(SkinColor::Surface);
@@ -87,9 +93,9 @@ void LabelsPage::addTexts()
 {
     Card *card = addCard(QT_TR_NOOP("Elided texts and clicks"),
         QT_TR_NOOP("A text that is too long ends in dots. A label tells of clicks, as a button does."));
-    m_pElided = new CustomLabel(this);
+    m_pElided = newLabel(this);
     m_pElided->setFixedSize(Elided_Width, Label_Height);
-    m_pClickable = withBox(new CustomLabel(this));
+    m_pClickable = withBox(newLabel(this));
     m_pClickable->setCursor(Qt::PointingHandCursor);
     connect(m_pClickable, &CustomLabel::clicked, this, [this] {
         ++m_nClicks;

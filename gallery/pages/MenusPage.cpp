@@ -111,10 +111,10 @@ void MenusPage::addButtons()
 void MenusPage::fill(CustomMenu *menu)
 {
     menu->addAction(icon("add"), tr("New"))->setShortcut(QKeySequence(int(Qt::CTRL) | int(Qt::Key_1)));
-    menu->addAction(icon("download"), tr("Download"));
+    menu->addAction(icon("download"), tr("Download"))->setShortcut(QKeySequence(int(Qt::CTRL) | int(Qt::Key_2)));
     menu->addAction(icon("delete"), tr("Delete"))->setEnabled(false);
     menu->addSeparator();
-    checkable(menu->addAction(tr("Show hidden files")), true)->setShortcut(int(Qt::CTRL) | int(Qt::Key_2));
+    checkable(menu->addAction(tr("Show hidden files")), true);
     checkable(menu->addAction(tr("Show previews")), false);
     checkable(menu->addAction(tr("Checked for good")), true)->setEnabled(false);
     menu->addSeparator();

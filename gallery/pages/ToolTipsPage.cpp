@@ -15,6 +15,8 @@ namespace {
 constexpr int Marker_Start = 80; // percent, of the library
 constexpr int LineDistance_Start = 3; // px
 constexpr int LineDistance_Wide = 12;
+constexpr int Tip_Radius = 3;
+constexpr int Pictures = 3; // the first tips differ in more than their place
 constexpr int Lifetime_Short = 1000; // ms
 
 struct Tip
@@ -28,9 +30,9 @@ struct Tip
 
 const Tip tips[] = {
     { QT_TRANSLATE_NOOP("ToolTipsPage", "A short tip"), QT_TRANSLATE_NOOP("ToolTipsPage", "one line") },
-    { QT_TRANSLATE_NOOP("ToolTipsPage", "Several lines\r\nstand below\r\neach other"),
+    { QT_TRANSLATE_NOOP("ToolTipsPage", "Several lines\nstand below\neach other"),
         QT_TRANSLATE_NOOP("ToolTipsPage", "several lines") },
-    { QT_TRANSLATE_NOOP("ToolTipsPage", "Several lines\r\nstand below\r\neach other"),
+    { QT_TRANSLATE_NOOP("ToolTipsPage", "Several lines\nstand below\neach other"),
         QT_TRANSLATE_NOOP("ToolTipsPage", "further apart"), Marker_Start, LineDistance_Wide },
     { QT_TRANSLATE_NOOP("ToolTipsPage", "The marker is at the left"),
         QT_TRANSLATE_NOOP("ToolTipsPage", "marker at 10 %"), 10 },
@@ -69,26 +71,30 @@ protected:
     {
         auto *widget = event->type() == QEvent::Polish ? qobject_cast<QWidget *>(watched) : nullptr;
         if (widget && widget->windowType() == Qt::ToolTip) {
-            widget->setAttribute(Qt::WA_DontShowOnScreen);
+            widget->setParent(&m_host);
             m_pTip = widget;
         }
         return false;
     }
 
 private:
+    QWidget m_host; // stays hidden
     QPointer<QWidget> m_pTip;
 };
+
+QString textOf(const Tip &tip)
+{
+    return ToolTipsPage::tr(tip.text).replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+}
 
 QPixmap pictureOf(const Tip &tip)
 {
     const LookGuard guard(tip);
     const OffScreen offScreen;
-    CustomToolTip::showText({}, ToolTipsPage::tr(tip.text), nullptr, true);
+    CustomToolTip::showText({}, textOf(tip), nullptr, true);
     if (!offScreen.tip())
         return {};
-    const QPixmap picture = offScreen.tip()->grab();
-    delete offScreen.tip();
-    return picture;
+    return Snapshot::rounded(offScreen.tip()->grab(), Tip_Radius);
 }
 
 } // namespace
@@ -103,10 +109,10 @@ ToolTipsPage::~ToolTipsPage() = default;
 
 void ToolTipsPage::addPictures()
 {
-    Card *card = addCard(QT_TR_NOOP("Looks"), QT_TR_NOOP("Where a tip points, and how far its lines are apart."));
+    Card *card = addCard(QT_TR_NOOP("Looks"), QT_TR_NOOP("How far the lines of a tip are apart is up to the program."));
     QList<QWidget *> pictures;
-    for (const Tip &tip : tips)
-        pictures << captioned(new Snapshot([&tip] { return pictureOf(tip); }), tip.caption);
+    for (int i = 0; i < Pictures; ++i)
+        pictures << captioned(new Snapshot([i] { return pictureOf(tips[i]); }), tips[i].caption);
     card->add(row(pictures));
 }
 
@@ -120,7 +126,7 @@ void ToolTipsPage::addButtons()
         connect(button, &CustomPushButton::clicked, button, [button, &tip] {
             const LookGuard guard(tip);
             const QPoint below = button->mapToGlobal(button->rect().center());
-            CustomToolTip::showText(below, tr(tip.text), button, button->rect(), tip.lifetime, true);
+            CustomToolTip::showText(below, textOf(tip), button, button->rect(), tip.lifetime, true);
         });
         buttons << button;
     }

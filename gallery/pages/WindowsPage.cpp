@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr QSize Window_Size(320, 200);
+constexpr QSize Window_Size(296, 184);
 constexpr QSize Scroll_Size(300, 160);
 constexpr int Scroll_Lines = 20;
 constexpr QSize SmallestStretch(200, 120);
@@ -27,6 +27,7 @@ TextLabel *newText(const QString &words)
     auto *label = new TextLabel(TextLabel::Body);
     label->setText(words);
     label->setAlignment(Qt::AlignCenter);
+    label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     return label;
 }
 

@@ -2,7 +2,6 @@
 
 #include <Zanthic/ChangeSkinEvent.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
@@ -64,13 +63,14 @@ void Snapshot::customEvent(QEvent *event)
 
 QPixmap Snapshot::ofWindow(QWidget *window, int radius)
 {
-    // Windows finish themselves when they are shown. This one must neither appear nor end the program as the last one.
-    window->setAttribute(Qt::WA_DontShowOnScreen);
-    window->setAttribute(Qt::WA_QuitOnClose, false);
-    window->setAttribute(Qt::WA_ShowWithoutActivating);
+    // Windows finish themselves when they are shown. As a child of what stays hidden, this one doesn't appear.
+    QWidget host;
+    const Qt::WindowFlags flags = window->windowFlags();
+    window->setParent(&host);
     window->show();
-    QCoreApplication::sendPostedEvents(window);
-    return rounded(window->grab(), radius);
+    const QPixmap picture = rounded(window->grab(), radius);
+    window->setParent(nullptr, flags);
+    return picture;
 }
 
 QPixmap Snapshot::rounded(const QPixmap &picture, int radius)

@@ -20,7 +20,8 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
-    /// \p window as it would stand on the screen, with corners of \p radius px. It isn't shown to the user.
+    /// \p window as it would stand on the screen, with corners of \p radius px. It must be hidden, and
+    /// stays so.
     static QPixmap ofWindow(QWidget *window, int radius);
     /// \p picture without what lies outside of corners of \p radius px.
     static QPixmap rounded(const QPixmap &picture, int radius);

@@ -5,7 +5,8 @@
 #include "GalleryWindow.h"
 #include "pages/EnginePage.h"
 #include "pages/PageRegistry.h"
-#include "parts/Field.h"
+
+#include <Zanthic/CustomLineEdit.h>
 
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
@@ -102,7 +103,7 @@ private Q_SLOTS:
             return gallery.appearance.skin() + ' ' + gallery.appearance.language()
                 + (gallery.engine->isEnabled() ? "" : " off");
         };
-        auto *field = gallery.window->findChild<Field *>();
+        auto *field = gallery.window->findChild<CustomLineEdit *>();
         field->setFocus();
         for (const auto &[key, state] : { std::pair(Qt::Key_T, "dark en_US"_s), std::pair(Qt::Key_L, "light zh_CN"_s),
                  std::pair(Qt::Key_E, "light en_US off"_s) }) {
