@@ -67,6 +67,7 @@ GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent)
       m_pLanguageGroup(new QButtonGroup(this))
 {
     new WindowKeys(this);
+    m_pScrollArea->setObjectName(QStringLiteral("page"));
     m_pScrollArea->setWidgetResizable(true);
     m_pScrollArea->setFrameShape(QFrame::NoFrame);
     m_pScrollArea->setFocusPolicy(Qt::NoFocus);
@@ -262,7 +263,7 @@ QPixmap GalleryWindow::picture()
     QWidget host;
     if (!wasVisible) {
         setParent(&host);
-        show();
+        Snapshot::showAll(this);
     }
     // A page may wrap its texts differently once the scroll bar is gone, hence the second turn.
     for (int turn = 0; turn < 2 && m_pPage; ++turn) {

@@ -38,7 +38,7 @@ CustomLabel *withBox(CustomLabel *label)
     label->cSetBorderColor(SkinColor::Accent);
     label->setFixedHeight(Label_Height);
     label->setAlignment(Qt::AlignCenter);
-    label->setMargin(8);
+    label->setContentsMargins(8, 0, 8, 0);
     return label;
 }
 

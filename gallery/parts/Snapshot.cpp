@@ -61,13 +61,23 @@ void Snapshot::customEvent(QEvent *event)
         discard();
 }
 
+void Snapshot::showAll(QWidget *window)
+{
+    window->show();
+    const QList<QWidget *> parts = window->findChildren<QWidget *>();
+    for (QWidget *part : parts) {
+        if (!part->isWindow() && !part->testAttribute(Qt::WA_WState_ExplicitShowHide))
+            part->show();
+    }
+}
+
 QPixmap Snapshot::ofWindow(QWidget *window, int radius)
 {
     // Windows finish themselves when they are shown. As a child of what stays hidden, this one doesn't appear.
     QWidget host;
     const Qt::WindowFlags flags = window->windowFlags();
     window->setParent(&host);
-    window->show();
+    showAll(window);
     const QPixmap picture = rounded(window->grab(), radius);
     window->setParent(nullptr, flags);
     return picture;

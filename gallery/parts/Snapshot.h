@@ -23,6 +23,9 @@ public:
     /// \p window as it would stand on the screen, with corners of \p radius px. It must be hidden, and
     /// stays so.
     static QPixmap ofWindow(QWidget *window, int radius);
+    /// Shows \p window, a child of what stays hidden, and each part of it that hasn't been hidden on purpose: what
+    /// would happen to it on a screen.
+    static void showAll(QWidget *window);
     /// \p picture without what lies outside of corners of \p radius px.
     static QPixmap rounded(const QPixmap &picture, int radius);
 
