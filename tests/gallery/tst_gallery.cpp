@@ -40,7 +40,7 @@ QStringList faults(const QWidget *window)
     for (const QWidget *widget : window->findChildren<QWidget *>()) {
         const auto *label = qobject_cast<const QLabel *>(widget);
         const bool sized = label || qobject_cast<const QAbstractButton *>(widget);
-        if (widget->isHidden() || !(sized || qobject_cast<const QLineEdit *>(widget)))
+        if (widget->window() != window || widget->isHidden() || !(sized || qobject_cast<const QLineEdit *>(widget)))
             continue;
         const bool wraps = label && label->wordWrap();
         const QSize needed = wraps ? QSize(0, label->heightForWidth(label->width())) : widget->sizeHint();
