@@ -83,6 +83,12 @@ std::vector<FigureReporter::Figure> FigureReporter::figures() const
         { "memory_kib_per_button", counter("memory/zanthic", "KiB_per_button"),
             "KiB for each painted button beyond a plain one; at most 2" },
         { "memory_kib_per_button_sheet", counter("memory/sheet", "KiB_per_button"), "the same with a style sheet" },
+        { "window_show_vs_sheet", ratio(nanoseconds("window/show/zanthic"), nanoseconds("window/show/sheet")),
+            "a window of twenty controls to its first paint / a dialog under a style sheet; at most 1" },
+        { "window_resize_vs_sheet", ratio(nanoseconds("window/resize/zanthic"), nanoseconds("window/resize/sheet")),
+            "a step of a live resize / that of the dialog; at most 1" },
+        { "menu_vs_sheet", ratio(nanoseconds("menu/zanthic"), nanoseconds("menu/sheet")),
+            "a menu's first paint / under a style sheet; at most 1" },
         { "start_ms", nanoseconds("start/theme") / 1e6, "taking up the default theme" },
         { "read_ns", nanoseconds("read/own_key"), "one attribute by its own key" },
     };

@@ -53,7 +53,10 @@ QString Fixtures::equivalentSheet(bool dark)
                           " border: 1px solid %10; border-radius: 4px; }"
                           "QCheckBox::indicator:checked { background-color: %1; border-color: %1;"
                           " image: url(:/Zanthic/Control/Menu_Tick.png); }"
-                          "QCheckBox::indicator:checked:hover { background-color: %4; border-color: %4; }")
+                          "QCheckBox::indicator:checked:hover { background-color: %4; border-color: %4; }"
+                          "QMenu { background-color: %9; border: 1px solid %10; border-radius: 4px; padding: 6px 3px; }"
+                          "QMenu::item { color: %8; font-size: 14px; height: 30px; padding: 0px 30px; }"
+                          "QMenu::item:selected { background-color: %4; }")
         .arg(background, color("Custom_Accent"), color("Custom_Accent_Text"), color("Custom_Accent_Hover"),
             color("Custom_Accent_Pressed"), color("Custom_Accent_Disabled"), color("Custom_Accent_Text_Disabled"),
             color("Custom_Font"), color("Custom_Indicator"))

@@ -10,6 +10,7 @@
 #include <Zanthic/CustomWidget.h>
 
 #include <QtCore/QEventLoop>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtWidgets/QScrollArea>
 

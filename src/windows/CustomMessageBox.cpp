@@ -5,6 +5,7 @@
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomTitleBar.h>
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QBoxLayout>
 
 namespace {

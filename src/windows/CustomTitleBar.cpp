@@ -9,6 +9,8 @@
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QTextDocument>
+#include <QtGui/QWindow>
 #include <QtWidgets/QBoxLayout>
 
 namespace {
@@ -20,6 +22,34 @@ constexpr Qt::WindowFlags kOnTopFlags(0x2000c03); // the same, past the window m
 QString plainToolTip(const QString &text)
 {
     return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()) : text;
+}
+
+/// Gives a window that is past the window manager the keyboard at a press, which nobody else would do.
+class FocusOnPress : public QObject
+{
+public:
+    explicit FocusOnPress(QWidget *window) : QObject(window->windowHandle()), m_pWindow(window) { }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        const bool isPress = event->type() == QEvent::MouseButtonPress;
+        if (isPress && m_pWindow->windowFlags().testFlag(Qt::BypassWindowManagerHint) && !m_pWindow->isActiveWindow())
+            m_pWindow->activateWindow();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QWidget *m_pWindow; // outlives its window handle, which owns this
+};
+
+void showOnTop(QWidget *window)
+{
+    window->showNormal();
+    if (!window->windowHandle())
+        return;
+    window->windowHandle()->installEventFilter(new FocusOnPress(window));
+    window->activateWindow();
 }
 
 } // namespace
@@ -146,7 +176,10 @@ void CustomTitleBar::cSetStayOnTop(bool on, bool unused)
     d->m_pStayOnTopButton->update();
     d->m_pTopWidget->setWindowFlags(on ? kOnTopFlags : kNormalFlags);
     d->m_pMinButton->setEnabled(!on);
-    d->m_pTopWidget->showNormal();
+    if (on)
+        showOnTop(d->m_pTopWidget);
+    else
+        d->m_pTopWidget->showNormal();
 }
 
 bool CustomTitleBar::cIsStayOnTop() const

@@ -2,6 +2,8 @@
 
 // Not part of the API. It may change from version to version without notice.
 
+#include <QtCore/qglobal.h>
+
 QT_BEGIN_NAMESPACE
 class QPainter;
 class QStyleOptionMenuItem;

@@ -8,6 +8,7 @@
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/CustomPushButton.h>
 
+#include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QScrollBar>

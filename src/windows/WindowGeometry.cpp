@@ -6,6 +6,8 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 
+#include <algorithm>
+
 namespace {
 
 using Window = CustomMainWindow;
@@ -17,6 +19,7 @@ constexpr int Band_LeftTop = 10;
 // Window systems end well before; a bitmap of a larger size would only cost memory.
 constexpr int kMaxExtent = 32767;
 constexpr int kMaxPixels = 64 * 1024 * 1024;
+constexpr int Corner_Margin = 4;
 
 constexpr int kLeftEdges = Window::StrechLeft | Window::StrechTopLeft | Window::StrechBottomLeft;
 constexpr int kRightEdges = Window::StrechRight | Window::StrechTopRight | Window::StrechBottomRight;
@@ -52,6 +55,35 @@ WindowGeometry::Zone zoneInBand(const Band &band, bool atRight, bool atLeft, Win
 int clamped(int value, int low, int high)
 {
     return qMax(low, qMin(value, high));
+}
+
+/// A size in which the corners stand apart, and the edges between them are straight.
+QSize cornersSize(const WindowGeometry::Widths &borders, const WindowGeometry::Radii &radii)
+{
+    const int border = *std::max_element(borders.cbegin(), borders.cend());
+    int corner = 0;
+    for (const QSize &radius : radii)
+        corner = qMax(corner, qMax(radius.width(), radius.height()));
+    const int side = 2 * (qBound(0, corner, kMaxExtent) + qBound(0, border, kMaxExtent) + Corner_Margin);
+    return QSize(side, side);
+}
+
+QRegion stretchedRegion(const QRegion &region, const QSize &from, const QSize &to)
+{
+    const int middleX = from.width() / 2;
+    const int middleY = from.height() / 2;
+    const int addedX = to.width() - from.width();
+    const int addedY = to.height() - from.height();
+    QVector<QRect> rects;
+    rects.reserve(region.rectCount());
+    for (QRect rect : region) {
+        rect.adjust(rect.left() > middleX ? addedX : 0, rect.top() > middleY ? addedY : 0,
+            rect.right() >= middleX ? addedX : 0, rect.bottom() >= middleY ? addedY : 0);
+        rects.append(rect);
+    }
+    QRegion result;
+    result.setRects(rects.constData(), rects.size());
+    return result;
 }
 
 } // namespace
@@ -100,7 +132,7 @@ QMargins WindowGeometry::shadowMargins(const QPointF &offset, float blurRadius)
         int(radius - offset.x()), int(radius - offset.y()), int(radius + offset.x()), int(radius + offset.y()));
 }
 
-QMargins WindowGeometry::borderMargins(const std::array<int, 4> &borders, bool rounded)
+QMargins WindowGeometry::borderMargins(const Widths &borders, bool rounded)
 {
     const int extra = rounded ? 1 : 0;
     return QMargins(extra + borders[Custom::Left], borders[Custom::Top], extra + borders[Custom::Right],
@@ -115,11 +147,8 @@ QRect WindowGeometry::residual(const QRect &titleBar, int frameWidth)
     return result;
 }
 
-QRegion WindowGeometry::mask(const QSize &size, const std::array<int, 4> &borders, const std::array<QSize, 4> &radii)
+QRegion WindowGeometry::paintedMask(const QSize &size, const Widths &borders, const Radii &radii)
 {
-    if (size.isEmpty() || size.width() > kMaxExtent || size.height() > kMaxExtent
-        || qint64(size.width()) * size.height() > kMaxPixels)
-        return QRegion();
     QBitmap bitmap(size);
     bitmap.fill(Qt::white);
     QPainter painter(&bitmap);
@@ -129,4 +158,25 @@ QRegion WindowGeometry::mask(const QSize &size, const std::array<int, 4> &border
         QBrush(Qt::black, Qt::SolidPattern));
     painter.end();
     return QRegion(bitmap);
+}
+
+QRegion WindowGeometry::mask(const QSize &size, const Widths &borders, const Radii &radii)
+{
+    if (size.isEmpty() || size.width() > kMaxExtent || size.height() > kMaxExtent
+        || qint64(size.width()) * size.height() > kMaxPixels)
+        return QRegion();
+    // Only the corners are curved: the shape of a small window is stretched in the middle.
+    const QSize least = cornersSize(borders, radii);
+    if (size.width() <= least.width() || size.height() <= least.height())
+        return paintedMask(size, borders, radii);
+    struct Known
+    {
+        Widths borders;
+        Radii radii;
+        QRegion region;
+    };
+    static Known s_Known;
+    if (s_Known.region.isEmpty() || s_Known.borders != borders || s_Known.radii != radii)
+        s_Known = { borders, radii, paintedMask(least, borders, radii) };
+    return stretchedRegion(s_Known.region, least, size);
 }

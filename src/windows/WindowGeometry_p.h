@@ -15,6 +15,8 @@
 namespace WindowGeometry {
 
 using Edges = CustomMainWindow::StrechEdges;
+using Widths = std::array<int, 4>; ///< px, by Custom::BorderEdge
+using Radii = std::array<QSize, 4>; ///< px, by Custom::BorderCorner
 
 /// What the mouse would do at a point.
 struct Zone
@@ -37,15 +39,16 @@ ZANTHIC_TEST_EXPORT QPoint strechDelta(const QPoint &start, const QPoint &positi
 /// The room that a shadow takes around the frame.
 ZANTHIC_TEST_EXPORT QMargins shadowMargins(const QPointF &offset, float blurRadius);
 
-/// The room that a border takes inside the frame; \p borders by Custom::BorderEdge. A rounded border takes one pixel
+/// The room that a border takes inside the frame. A rounded border takes one pixel
 /// more at the left, the right and the bottom.
-ZANTHIC_TEST_EXPORT QMargins borderMargins(const std::array<int, 4> &borders, bool rounded);
+ZANTHIC_TEST_EXPORT QMargins borderMargins(const Widths &borders, bool rounded);
 
 /// The colour rectangle that carries the title's colour under the border beside the title bar.
 ZANTHIC_TEST_EXPORT QRect residual(const QRect &titleBar, int frameWidth);
 
 /// The shape of a window with a border; empty where no window can be of that size.
-ZANTHIC_TEST_EXPORT QRegion mask(
-    const QSize &size, const std::array<int, 4> &borders, const std::array<QSize, 4> &radii);
+ZANTHIC_TEST_EXPORT QRegion mask(const QSize &size, const Widths &borders, const Radii &radii);
+/// The same, painted pixel by pixel.
+ZANTHIC_TEST_EXPORT QRegion paintedMask(const QSize &size, const Widths &borders, const Radii &radii);
 
 } // namespace WindowGeometry

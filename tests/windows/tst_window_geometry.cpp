@@ -62,6 +62,14 @@ void WindowGeometryTest::maskIsTheBorderMiddle()
     QVERIFY(region.contains(QPoint(30, 20)) && region.contains(QPoint(3, 3)));
     QCOMPARE(region.boundingRect(), QRect(0, 0, 60, 40)); // the whole window
     QVERIFY(mask(QSize(40000, 3), {}, {}).isEmpty());
+    // The quick way and the plain one, by turns with another window in between.
+    const Widths widths{ 1, 4, 2, 0 };
+    const Radii radii{ QSize(8, 8), QSize(3, 12), QSize(0, 0), QSize(17, 17) };
+    for (const QSize &size : { QSize(30, 30), QSize(52, 300), QSize(640, 401), QSize(801, 53) }) {
+        QCOMPARE(mask(size, widths, radii), paintedMask(size, widths, radii));
+        QCOMPARE(mask(size, { 1, 1, 1, 1 }, { radius, radius, radius, radius }),
+            paintedMask(size, { 1, 1, 1, 1 }, { radius, radius, radius, radius }));
+    }
 }
 
 ZANTHIC_TEST_MAIN(WindowGeometryTest)

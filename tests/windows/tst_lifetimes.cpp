@@ -1,0 +1,92 @@
+#include "support/StyleTest.h"
+
+#include <Zanthic/CustomMainWindow.h>
+#include <Zanthic/CustomMenu.h>
+#include <Zanthic/CustomMessageBox.h>
+#include <Zanthic/CustomPushButton.h>
+#include <Zanthic/CustomTitleBar.h>
+#include <Zanthic/CustomToolTip.h>
+#include <Zanthic/CustomWidget.h>
+#include <Zanthic/ZanthicTheme.h>
+
+using Open = void (*)();
+Q_DECLARE_METATYPE(Open)
+
+namespace {
+
+constexpr int kRounds = 1000;
+
+void openWindow()
+{
+    CustomMainWindow window;
+    window.cTitleBar()->cAddMenu(QStringLiteral("File"), new CustomMenu(&window));
+    window.cTitleBar()->cAddToolButton(false, 4);
+    window.cSetCentralWidget(new CustomWidget);
+    window.cSetButtons(CustomMainWindow::ButtonOk);
+    window.show();
+    QTest::mouseClick(window.cButton(0), Qt::LeftButton);
+}
+
+void openMenu()
+{
+    CustomMenu menu;
+    menu.addMenu(QStringLiteral("More"))->addAction(QStringLiteral("Action"));
+    menu.cAddCustomWidgetMenu(new QWidget);
+    menu.popup(QPoint(10, 10));
+    menu.close();
+}
+
+void openMessageBox()
+{
+    QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
+    CustomMessageBox::ask(
+        nullptr, QStringLiteral("Content"), QString(), CustomMainWindow::ButtonOk, QStringLiteral("Title"));
+}
+
+void openToolTip()
+{
+    CustomToolTip::showText(QPoint(50, 50), QStringLiteral("Tip"), nullptr, true);
+}
+
+} // namespace
+
+/// What is opened and closed again and again leaves nothing behind. Memory is watched by the sanitizer's run.
+class LifetimesTest : public StyleTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingStaysBehind_data();
+    void nothingStaysBehind();
+};
+
+void LifetimesTest::nothingStaysBehind_data()
+{
+    QTest::addColumn<Open>("open");
+    QTest::newRow("windows") << Open(&openWindow);
+    QTest::newRow("menus") << Open(&openMenu);
+    QTest::newRow("message boxes") << Open(&openMessageBox);
+    QTest::newRow("tool tips") << Open(&openToolTip);
+}
+
+void LifetimesTest::nothingStaysBehind()
+{
+    QFETCH(Open, open);
+    ZanthicTheme::applySkin(QStringLiteral("light"));
+    const auto living = [] {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return QApplication::allWidgets().size();
+    };
+    open();
+    const int before = living();
+    for (int round = 0; round < kRounds; ++round) {
+        open();
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(living(), before);
+    QTest::mouseClick(std::make_unique<QWidget>().get(), Qt::LeftButton); // closes the tip
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+ZANTHIC_TEST_MAIN(LifetimesTest)
+#include "tst_lifetimes.moc"
