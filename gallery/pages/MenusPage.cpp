@@ -5,6 +5,7 @@
 #include "parts/Snapshot.h"
 
 #include <Zanthic/CInterWidgetMenu.h>
+#include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/CustomFrame.h>
 #include <Zanthic/CustomMenu.h>
 #include <Zanthic/CustomPushButton.h>
@@ -143,10 +144,22 @@ void MenusPage::retranslate()
     GalleryPage::retranslate();
     m_chosen.clear();
     showChosen();
+    refill();
+}
+
+void MenusPage::refill()
+{
     for (CustomMenu *menu : qAsConst(m_lstMenus)) {
         menu->disconnect(this);
         menu->clear();
         qDeleteAll(menu->findChildren<CustomMenu *>(QString(), Qt::FindDirectChildrenOnly));
         fill(menu);
     }
+}
+
+void MenusPage::customEvent(QEvent *event)
+{
+    // Icons keep the pictures of the skin in which they were made.
+    if (int(event->type()) == ChangeSkinEvent::EventType)
+        refill();
 }

@@ -15,10 +15,14 @@ public:
 
     void retranslate() override;
 
+protected:
+    void customEvent(QEvent *event) override;
+
 private:
     void addPictures();
     void addButtons();
     void fill(CustomMenu *menu);
+    void refill();
     void showChosen();
 
     QList<CustomMenu *> m_lstMenus; // those that can be popped up

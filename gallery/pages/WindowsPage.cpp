@@ -4,9 +4,9 @@
 #include "parts/Snapshot.h"
 
 #include <Zanthic/CustomCheckBox.h>
-#include <Zanthic/CustomLineEdit.h>
 #include <Zanthic/CustomMenu.h>
 #include <Zanthic/CustomTitleBar.h>
+#include <Zanthic/CustomWidget.h>
 
 #include <QtCore/QMetaEnum>
 #include <QtWidgets/QBoxLayout>
@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr QSize Window_Size(296, 184);
+constexpr QSize Window_Size(288, 184);
 constexpr QSize Scroll_Size(300, 160);
 constexpr int Scroll_Lines = 20;
 constexpr QSize SmallestStretch(200, 120);
@@ -137,7 +137,7 @@ void WindowsPage::addSamples()
     auto *scrolled = opener(QT_TR_NOOP("Scrolled content"), [this] {
         auto *sample = new CustomMainWindow(window());
         sample->cTitleBar()->cSetTitleText(tr("Scrolled"));
-        auto *lines = new QWidget;
+        auto *lines = new CustomWidget; // which paints the theme's background
         auto *layout = new QVBoxLayout(lines);
         for (int i = 1; i <= Scroll_Lines; ++i)
             layout->addWidget(newText(tr("Line %1").arg(i)));

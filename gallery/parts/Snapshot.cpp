@@ -78,6 +78,7 @@ QPixmap Snapshot::ofWindow(QWidget *window, int radius)
     const Qt::WindowFlags flags = window->windowFlags();
     window->setParent(&host);
     showAll(window);
+    window->resize(window->size().expandedTo(window->minimumSizeHint()));
     const QPixmap picture = rounded(window->grab(), radius);
     window->setParent(nullptr, flags);
     return picture;
