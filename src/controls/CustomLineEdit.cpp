@@ -39,6 +39,7 @@ CustomLineEditPrivate::CustomLineEditPrivate(CustomLineEdit::StyleSelector selec
     : searchButton(new CustomPushButton(owner, CustomPushButton::Default)), q(owner)
 {
     searchButton->cSetStyleSelector(matchLineEditSelector(selector));
+    searchButton->setVisible(enableSearch);
     searchButton->setCursor(Qt::ArrowCursor);
     searchButton->cSetParentClassName(QString::fromLatin1(q->metaObject()->className()));
     QObject::connect(searchButton.data(), &CustomPushButton::clicked, q, &CustomLineEdit::cSigSearchClicked);

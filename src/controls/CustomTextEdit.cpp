@@ -63,6 +63,12 @@ CustomTextEdit::CustomTextEdit(const QString &text, QWidget *parent)
 
 CustomTextEdit::~CustomTextEdit() = default;
 
+void CustomTextEdit::cSetStyleSelector(const QString &selector)
+{
+    CustomObject::cSetStyleSelector(selector);
+    resetStyleSheet(this);
+}
+
 void CustomTextEdit::cNotifyUpdateValue(const QString &key, const QString &value, Custom::ItemStatus status)
 {
     CustomObject::cNotifyUpdateValue(key, value, status);

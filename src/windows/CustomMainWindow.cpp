@@ -273,9 +273,9 @@ void CustomMainWindow::setVisible(bool visible)
     QDialog::setVisible(visible);
     if (!self)
         return;
-    if (!visible) {
-        if (wasVisible)
-            d->m_oLowerTimer.stop();
+    // Somebody may have hidden the window while it was being shown.
+    if (!isVisible()) {
+        d->m_oLowerTimer.stop();
         return;
     }
     if (windowModality() != Qt::NonModal)

@@ -100,6 +100,7 @@ void CustomMainWindowPrivate::createParts()
     m_pSplitLine->cSetBackgroundColor(QStringLiteral("DB_COLOR_Custom_BarLine_Background"), Custom::Normal, {});
 
     m_pButtonBar = new CustomWidget(q);
+    m_pButtonBar->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_pContentWidget = new QWidget(q);
     m_pScrollArea = new QScrollArea(q);
     m_pScrollArea->hide();
@@ -236,7 +237,11 @@ void CustomMainWindowPrivate::resetCentralWidget(QWidget *widget)
     if (!widget)
         return;
     if (m_bEnableScrollBar) {
+        // A scroll area makes its content paint Qt's own background, which belongs to no skin.
+        const bool fills = widget->autoFillBackground();
         m_pScrollArea->setWidget(widget);
+        widget->setAutoFillBackground(fills);
+        m_pScrollArea->viewport()->setAutoFillBackground(false);
         return;
     }
     if (m_pCentralWidget && m_pCentralWidget != widget && m_pCentralWidget->parentWidget() == m_pContentWidget)

@@ -332,7 +332,8 @@ void CustomTitleBar::mouseDoubleClickEvent(QMouseEvent *event)
         d->m_oDragOffset = position;
         if (!d->m_pCloseButton->isHidden() && d->m_pCloseButton->geometry().contains(position))
             return;
-        if (!d->m_pIconLabel->isHidden() && d->m_pIconLabel->geometry().contains(position)) {
+        if (!d->m_pIconLabel->isHidden()
+            && d->m_pIconLabel->rect().contains(d->m_pIconLabel->mapFrom(this, position))) {
             cOnClose();
             return;
         }

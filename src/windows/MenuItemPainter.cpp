@@ -81,11 +81,19 @@ void drawBackground(QPainter *painter, const Item &item)
     painter->drawLine(item.layout.underline);
 }
 
+// Shades of the item's background. Those of Qt's palette belong to no skin.
+QPalette panelPalette(const Item &item)
+{
+    bool found = false;
+    const QBrush brush = item.menu.cBackgroundColor(item.boxStatus, item.layout.backgroundRect, itemSubs(), &found);
+    return found && brush.style() == Qt::SolidPattern ? QPalette(brush.color()) : item.option.palette;
+}
+
 void drawCheckedPanel(QPainter *painter, const Item &item)
 {
-    const QBrush brush
-        = item.selected ? backgroundBrush(item) : QBrush(item.option.palette.light().color(), Qt::Dense4Pattern);
-    qDrawShadePanel(painter, item.layout.checkColumn, item.option.palette, true, 1, &brush);
+    const QPalette palette = panelPalette(item);
+    const QBrush brush = item.selected ? backgroundBrush(item) : QBrush(palette.light().color(), Qt::Dense4Pattern);
+    qDrawShadePanel(painter, item.layout.checkColumn, palette, true, 1, &brush);
 }
 
 void drawIcon(QPainter *painter, const Item &item)
@@ -99,7 +107,7 @@ void drawIcon(QPainter *painter, const Item &item)
     const QPixmap pixmap = item.option.icon.pixmap(
         item.menu.window()->windowHandle(), QSize(extent, extent), mode, item.checked ? QIcon::On : QIcon::Off);
     if (item.selected && item.enabled && !item.checked)
-        qDrawShadePanel(painter, item.layout.checkColumn, item.option.palette, false, 1);
+        qDrawShadePanel(painter, item.layout.checkColumn, panelPalette(item), false, 1);
     const QSize size = (QSizeF(pixmap.size()) / pixmap.devicePixelRatio()).toSize();
     painter->setPen(item.option.palette.text().color());
     painter->drawPixmap(MenuItemLayout::centred(size, item.layout.checkColumn).topLeft(), pixmap);

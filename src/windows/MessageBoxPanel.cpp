@@ -374,6 +374,6 @@ void CustomMessageBoxPrivate::placePanel(CustomMessageBox *box)
 {
     CustomMessageBoxPrivate *panel = box->d;
     QWidget *host = CustomMainWindowPrivate::get(box)->m_pCentralWidget;
-    if (host && panel->parentWidget() == box)
+    if (host && box->isAncestorOf(host) && panel->parentWidget() == box)
         panel->move(host->mapTo(box, QPoint(Panel_LeftMargin, 0)));
 }

@@ -5,6 +5,7 @@
 #include <QtGui/QBitmap>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
+#include <QtWidgets/QWidget>
 
 #include <algorithm>
 
@@ -105,8 +106,9 @@ WindowGeometry::Zone WindowGeometry::zoneAt(const QPoint &position, const QRect 
     return {};
 }
 
-QRect WindowGeometry::stretched(const QRect &start, int edge, const QPoint &delta, const QSize &minimum)
+QRect WindowGeometry::stretched(const QRect &start, int edge, const QPoint &delta, const QSize &wanted)
 {
+    const QSize minimum = wanted.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     QRect result = start;
     if (edge & kLeftEdges)
         result.setLeft(qMin(start.left() + delta.x(), start.right() - minimum.width()));
@@ -135,8 +137,9 @@ QMargins WindowGeometry::shadowMargins(const QPointF &offset, float blurRadius)
 QMargins WindowGeometry::borderMargins(const Widths &borders, bool rounded)
 {
     const int extra = rounded ? 1 : 0;
-    return QMargins(extra + borders[Custom::Left], borders[Custom::Top], extra + borders[Custom::Right],
-        extra + borders[Custom::Bottom]);
+    const auto width = [&borders](Custom::BorderEdge edge) { return qMin(borders[edge], QWIDGETSIZE_MAX); };
+    return QMargins(
+        extra + width(Custom::Left), width(Custom::Top), extra + width(Custom::Right), extra + width(Custom::Bottom));
 }
 
 QRect WindowGeometry::residual(const QRect &titleBar, int frameWidth)

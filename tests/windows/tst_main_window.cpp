@@ -41,6 +41,12 @@ QString rowOf(const Window &window)
     return items.join(QLatin1Char(' '));
 }
 
+class HidesItself : public Window
+{
+protected:
+    void showEvent(QShowEvent *) override { hide(); }
+};
+
 class Listener : public CustomWidget
 {
 public:
@@ -307,6 +313,10 @@ void MainWindowTest::modalWindowsSwitchHotKeysOff()
     delete window;
     QCOMPARE(CustomPrivate::modalWidgetCount(), 0);
     QVERIFY(Private::g_AllWindow.isEmpty());
+    HidesItself shy;
+    shy.setModal(true);
+    shy.show();
+    QVERIFY(!shy.isVisible() && CustomPrivate::modalWidgetCount() == 0);
 }
 
 void MainWindowTest::mayBeDeletedByItsButton()

@@ -242,8 +242,15 @@ void TitleBarTest::doubleClick()
     QVERIFY(host.bar->cIsMaximized());
     twice(QPoint(200, 35));
     QVERIFY(!host.bar->cIsMaximized());
-    host.d->m_pIconLabel->setGeometry(2, 2, 20, 20);
-    twice(QPoint(5, 5));
+    // In the custom layout the icon stands on a widget of its own.
+    host.bar->cSetTitleIsCustom(true);
+    host.bar->cAddCustomWidget()->setFixedWidth(100);
+    host.bar->cSetTitleIcon(picture(Qt::blue, QSize(20, 20)));
+    host.bar->sizeHint();
+    QTRY_VERIFY(host.d->m_pIconLabel->mapTo(host.bar, QPoint(0, 0)).x() >= 100);
+    twice(QPoint(10, 20));
+    QVERIFY(host.bar->cIsMaximized());
+    twice(host.d->m_pIconLabel->mapTo(host.bar, QPoint(5, 5)));
     QVERIFY(!host.isVisible());
 }
 

@@ -9,15 +9,20 @@ int main(int argc, char *argv[])
     QApplication app(argc, argv);
     ZanthicTheme::applySkin(QStringLiteral("light"));
 
-    CustomWidget window;
-    auto *layout = new QVBoxLayout(&window);
-    auto *dark = new CustomCheckBox(QStringLiteral("Dark skin"), &window, CustomCheckBox::GraySwitch);
+    auto *content = new CustomWidget;
+    auto *layout = new QVBoxLayout(content);
+    layout->addWidget(new CustomLineEdit(QStringLiteral("A text"), content));
+    auto *dark = new CustomCheckBox(QStringLiteral("Dark skin"), content, CustomCheckBox::GraySwitch);
     layout->addWidget(dark);
-    layout->addWidget(new CustomPushButton(QStringLiteral("Save"), &window));
-    layout->addWidget(new CustomPushButton(QStringLiteral("Cancel"), &window, CustomPushButton::MiddleBase));
-
     QObject::connect(dark, &QCheckBox::toggled,
         [](bool on) { ZanthicTheme::applySkin(on ? QStringLiteral("dark") : QStringLiteral("light")); });
+
+    CustomMainWindow window;
+    window.cTitleBar()->cSetTitleText(QStringLiteral("Hello"));
+    window.cSetCentralWidget(content);
+    window.cSetButtons(CustomMainWindow::ButtonOk | CustomMainWindow::ButtonCancel);
+    window.cSetStrechEdges(
+        CustomMainWindow::StrechRight | CustomMainWindow::StrechBottom | CustomMainWindow::StrechBottomRight);
     window.show();
     return QApplication::exec();
 }
