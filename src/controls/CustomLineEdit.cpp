@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int kButtonMargin = 1; // right of the button
+constexpr qreal kPlaceholderOpacity = 0.65;
 const QLatin1String g_strReplaceText("*PaddingLeft*");
 
 QString matchLineEditSelector(CustomLineEdit::StyleSelector selector)
@@ -25,6 +26,17 @@ QString matchLineEditSelector(CustomLineEdit::StyleSelector selector)
         return QStringLiteral("GrayWhite");
     }
     return QString();
+}
+
+void dimPlaceholder(QLineEdit *edit)
+{
+    QPalette colors = edit->palette();
+    for (const QPalette::ColorGroup group : { QPalette::Active, QPalette::Inactive, QPalette::Disabled }) {
+        QColor color = colors.color(group, QPalette::Text);
+        color.setAlphaF(color.alphaF() * kPlaceholderOpacity);
+        colors.setColor(group, QPalette::PlaceholderText, color);
+    }
+    edit->setPalette(colors);
 }
 
 QString getLineEditStyleSheet(bool enableSearch)
@@ -149,7 +161,11 @@ bool CustomLineEdit::event(QEvent *event)
         if (button && button->geometry().contains(static_cast<QHelpEvent *>(event)->pos()))
             return true;
     }
-    return QLineEdit::event(event);
+    const bool handled = QLineEdit::event(event);
+    // The style sheet has given the placeholder the colour of a text that was entered.
+    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+        dimPlaceholder(this);
+    return handled;
 }
 
 void CustomLineEdit::customEvent(QEvent *event)

@@ -2,6 +2,7 @@
 
 #include "style/CustomPrivate_p.h"
 #include "windows/CustomMainWindow_p.h"
+#include "windows/WindowGeometry_p.h"
 
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/CustomFrame.h>
@@ -112,10 +113,10 @@ CustomPushButton *CustomMainWindow::cButton(int index) const
 {
     if (d->m_fButtons.testFlag(ButtonCustom) && index >= 0 && index < d->m_lstCustomButtons.size())
         return d->m_lstCustomButtons.at(index);
-    if (d->m_fButtons.testFlag(ButtonOk) && index == d->m_pOkButton->cUserData().toInt())
-        return d->m_pOkButton;
-    if (d->m_fButtons.testFlag(ButtonCancel) && index == d->m_pCancelButton->cUserData().toInt())
-        return d->m_pCancelButton;
+    for (const auto &[flag, button] : d->standardButtons()) {
+        if (d->m_fButtons.testFlag(flag) && index == button->cUserData().toInt())
+            return button;
+    }
     return nullptr;
 }
 
@@ -149,6 +150,8 @@ void CustomMainWindow::cShowNormal()
 void CustomMainWindow::cSetStrechEdges(StrechEdges edges)
 {
     d->m_fStrechEdges = edges;
+    if (!edges)
+        d->leaveStretch();
 }
 
 void CustomMainWindow::cSetMinStrechSize(const QSize &size)
@@ -301,6 +304,9 @@ void CustomMainWindow::cNotifyUpdateValue(const QString &attribute, const QStrin
 
 bool CustomMainWindow::event(QEvent *event)
 {
+    // A modal window has come up; a release would go nowhere.
+    if (event->type() == QEvent::WindowBlocked)
+        d->endStretch();
     return QWidget::event(event);
 }
 
@@ -342,21 +348,22 @@ void CustomMainWindow::customEvent(QEvent *event)
 void CustomMainWindow::mousePressEvent(QMouseEvent *event)
 {
     if ((windowFlags() & Qt::Popup) == Qt::Popup
-        && CustomMainWindowPrivate::isOutside(*this, event->pos(), event->globalPos())) {
+        && CustomMainWindowPrivate::isOutside(
+            *this, WindowGeometry::rounded(event->localPos()), WindowGeometry::rounded(event->screenPos()))) {
         const QPointer<CustomMainWindow> self(this);
         hide();
         if (self)
             QDialog::mousePressEvent(event);
         return;
     }
-    d->mousePressed(event->globalPos());
+    d->mousePressed(WindowGeometry::rounded(event->screenPos()));
     QDialog::mousePressEvent(event);
 }
 
 void CustomMainWindow::mouseMoveEvent(QMouseEvent *event)
 {
     const QPointer<CustomMainWindow> self(this);
-    d->mouseMove(event->globalPos());
+    d->mouseMove(WindowGeometry::rounded(event->screenPos()));
     if (self)
         QDialog::mouseMoveEvent(event);
 }

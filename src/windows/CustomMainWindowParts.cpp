@@ -181,8 +181,8 @@ void CustomMainWindowPrivate::setButtonsStatus(Buttons buttons)
         if (button)
             button->hide();
     }
-    m_pCancelButton->hide();
-    m_pOkButton->hide();
+    for (const auto &[flag, button] : standardButtons())
+        button->hide();
 }
 
 void CustomMainWindowPrivate::resetCustomButtons(const QStringList &names)
@@ -207,10 +207,10 @@ void CustomMainWindowPrivate::resetButtonNames(const QStringList &names)
         return;
     if (!m_fButtons.testFlag(CustomMainWindow::ButtonCustom)) {
         int next = 0;
-        if (m_fButtons.testFlag(CustomMainWindow::ButtonOk) && next < names.size())
-            m_pOkButton->setText(names.at(next++));
-        if (m_fButtons.testFlag(CustomMainWindow::ButtonCancel) && next < names.size())
-            m_pCancelButton->setText(names.at(next));
+        for (const auto &[flag, button] : standardButtons()) {
+            if (m_fButtons.testFlag(flag) && next < names.size())
+                button->setText(names.at(next++));
+        }
         return;
     }
     if (m_lstCustomButtons.size() < names.size())
@@ -224,12 +224,23 @@ void CustomMainWindowPrivate::resetButtonNames(const QStringList &names)
     }
 }
 
+QVector<QPair<CustomMainWindow::Button, CustomPushButton *>> CustomMainWindowPrivate::standardButtons() const
+{
+    QVector<QPair<CustomMainWindow::Button, CustomPushButton *>> buttons;
+    if (m_pOkButton)
+        buttons.append({ CustomMainWindow::ButtonOk, m_pOkButton });
+    if (m_pCancelButton)
+        buttons.append({ CustomMainWindow::ButtonCancel, m_pCancelButton });
+    return buttons;
+}
+
 void CustomMainWindowPrivate::retranslate()
 {
-    m_pOkButton->setText(CustomMainWindow::tr("OK"));
-    m_pCancelButton->setText(CustomMainWindow::tr("Cancel"));
-    setButtonSize(m_pOkButton);
-    setButtonSize(m_pCancelButton);
+    for (const auto &[flag, button] : standardButtons()) {
+        button->setText(
+            flag == CustomMainWindow::ButtonOk ? CustomMainWindow::tr("OK") : CustomMainWindow::tr("Cancel"));
+        setButtonSize(button);
+    }
 }
 
 void CustomMainWindowPrivate::resetCentralWidget(QWidget *widget)
@@ -303,9 +314,7 @@ void CustomMainWindowPrivate::fillButtonRow()
             setButtonStyle(index == m_nMainButton, button);
         }
     }
-    const QPair<CustomMainWindow::Button, CustomPushButton *> standard[]
-        = { { CustomMainWindow::ButtonOk, m_pOkButton }, { CustomMainWindow::ButtonCancel, m_pCancelButton } };
-    for (const auto &[flag, button] : standard) {
+    for (const auto &[flag, button] : standardButtons()) {
         if (!m_fButtons.testFlag(flag))
             continue;
         addToButtonRow(button);

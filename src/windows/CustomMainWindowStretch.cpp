@@ -56,8 +56,10 @@ void CustomMainWindowPrivate::showCursor(int oldZone, const QCursor &cursor)
 
 void CustomMainWindowPrivate::mousePressed(const QPoint &globalPos)
 {
-    judgeCursorPos(globalPos);
     StretchHelper &helper = g_StretchHelper;
+    if (helper.pressed && helper.window && helper.window != q)
+        get(helper.window)->endStretch();
+    judgeCursorPos(globalPos);
     const bool running = helper.pressed && helper.window == q;
     // A maximised window is not judged, so that the zone may be one of another window.
     helper.pressed = m_bCanStrech && helper.zone != 0;
@@ -98,6 +100,11 @@ void CustomMainWindowPrivate::mouseMove(const QPoint &globalPos)
 void CustomMainWindowPrivate::leaveStretch()
 {
     m_oCursorTimer.stop();
+    endStretch();
+}
+
+void CustomMainWindowPrivate::endStretch()
+{
     if (g_StretchHelper.window == q) {
         if (g_StretchHelper.pressed)
             m_pTitleBar->cSetEnableMove(g_StretchHelper.enableMove);
@@ -117,7 +124,10 @@ void CustomMainWindowPrivate::restoreCursor()
 
 void CustomMainWindowPrivate::mouseRelease()
 {
-    m_pTitleBar->cSetEnableMove(g_StretchHelper.enableMove);
-    g_StretchHelper.enableMove = true;
-    g_StretchHelper.pressed = false;
+    StretchHelper &helper = g_StretchHelper;
+    // The release of a stretch may come to another window.
+    const CustomMainWindow *window = helper.pressed && helper.window ? helper.window : q;
+    get(window)->m_pTitleBar->cSetEnableMove(helper.enableMove);
+    helper.enableMove = true;
+    helper.pressed = false;
 }

@@ -56,6 +56,8 @@ public:
     void paintResidual();
     void resetMask();
     void retranslate();
+    /// OK and Cancel, as far as nobody has deleted them.
+    QVector<QPair<CustomMainWindow::Button, CustomPushButton *>> standardButtons() const;
     /// Whether a press at these places, on a popup, is one outside.
     static bool isOutside(const CustomMainWindow &popup, const QPoint &local, const QPoint &global);
     void watchLevel();
@@ -66,6 +68,7 @@ public:
     void mouseRelease();
     /// The window goes away: a stretch of it ends, and the pointer gets its shape back.
     void leaveStretch();
+    void endStretch(); ///< one that would never see its release
     void restoreCursor();
 
     bool m_bNeedUpdate = true; ///< layout and style must be rebuilt at the next show
@@ -81,8 +84,8 @@ public:
     QBasicTimer m_oLowerTimer;
     QBasicTimer m_oCursorTimer;
     QEventLoop *m_pPopupLoop = nullptr; ///< while cPopup() runs
-    CustomPushButton *m_pOkButton = nullptr;
-    CustomPushButton *m_pCancelButton = nullptr;
+    QPointer<CustomPushButton> m_pOkButton;
+    QPointer<CustomPushButton> m_pCancelButton;
     CustomMainWindow *q;
     CustomTitleBar *m_pTitleBar = nullptr;
     QVBoxLayout *m_pBodyLayout = nullptr;

@@ -2,6 +2,7 @@
 
 #include "windows/CustomTitleBar_p.h"
 #include "windows/Screens_p.h"
+#include "windows/WindowGeometry_p.h"
 
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/CustomLabel.h>
@@ -126,8 +127,7 @@ CustomPushButton *CustomTitleBar::cAddMenu(const QString &text, CustomMenu *menu
 
 void CustomTitleBar::cAddMenuLayoutStretch()
 {
-    d->m_pMenuLayout->addStretch(0);
-    d->m_bMenuStretch = true;
+    d->addMenuStretch();
 }
 
 void CustomTitleBar::cSetMenuPosition(Qt::AlignmentFlag position)
@@ -291,8 +291,11 @@ void CustomTitleBar::mousePressEvent(QMouseEvent *event)
     if (!event)
         return;
     event->ignore();
+    // What a release that never came has left behind: the window was hidden or blocked in the middle of a drag.
+    if (event->buttons() == event->button())
+        d->m_bDragging = false;
     if (event->button() == Qt::LeftButton && d->m_bEnableMove && !d->m_bMaximized && d->m_pTopWidget) {
-        d->m_oDragOffset = event->globalPos() - d->m_pTopWidget->mapToParent(QPoint(0, 0));
+        d->m_oDragOffset = WindowGeometry::rounded(event->screenPos()) - d->m_pTopWidget->mapToParent(QPoint(0, 0));
         d->m_bDragging = rect().contains(event->pos());
         d->limitCursorRect(true);
     }
@@ -307,7 +310,7 @@ void CustomTitleBar::mouseMoveEvent(QMouseEvent *event)
     if (!d->m_pTopWidget || !d->m_bEnableMove || !d->m_bDragging || d->m_bMaximized)
         return;
     const QPointer<CustomTitleBar> self(this);
-    d->m_pTopWidget->move(event->globalPos() - d->m_oDragOffset);
+    d->m_pTopWidget->move(WindowGeometry::rounded(event->screenPos()) - d->m_oDragOffset);
     if (self)
         QWidget::mouseMoveEvent(event);
 }
@@ -328,7 +331,7 @@ void CustomTitleBar::mouseDoubleClickEvent(QMouseEvent *event)
         return;
     event->ignore();
     if (event->button() == Qt::LeftButton && d->m_fControls.testFlag(TitleMax)) {
-        const QPoint position = event->pos();
+        const QPoint position = WindowGeometry::rounded(event->localPos());
         d->m_oDragOffset = position;
         if (!d->m_pCloseButton->isHidden() && d->m_pCloseButton->geometry().contains(position))
             return;

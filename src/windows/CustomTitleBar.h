@@ -75,8 +75,8 @@ public:
     /// The window that is moved and closed, not owned; null is ignored. Its present geometry is the one to return to
     /// from maximised.
     void cSetTopWidget(QWidget *widget);
-    /// Keeps the window above all others, past the window manager; shows it again in either direction. The second
-    /// argument has no effect.
+    /// Keeps the window above all others, past the window manager; shows it again in either direction, which ends
+    /// an exec() or a popup of it. The second argument has no effect.
     void cSetStayOnTop(bool on, bool unused = false);
     bool cIsStayOnTop() const;
     void cSetEnableMove(bool enable); ///< whether dragging the bar moves the window; true at start

@@ -26,6 +26,29 @@ constexpr int ToolLine_StandardSpacing = 12;
 constexpr int ToolRow_Indent = 4;
 constexpr int StandardTitle_RightMargin = 6;
 
+/// A row that knows whether it is placing its items. It can't be deleted then.
+class PlacingRow : public QHBoxLayout
+{
+public:
+    explicit PlacingRow(int *placing) : m_pPlacing(placing)
+    {
+        setContentsMargins(0, 0, 0, 0);
+        setSpacing(0);
+    }
+
+    void setGeometry(const QRect &rect) override
+    {
+        const QPointer<PlacingRow> self(this); // an item may delete the title bar
+        ++*m_pPlacing;
+        QHBoxLayout::setGeometry(rect);
+        if (self)
+            --*m_pPlacing;
+    }
+
+private:
+    int *m_pPlacing;
+};
+
 QHBoxLayout *newRow()
 {
     return static_cast<QHBoxLayout *>(Custom::createLayout(Qt::Horizontal));
@@ -137,6 +160,10 @@ void CustomTitleBarPrivate::ensureUpdated()
 {
     if (!m_bNeedUpdate)
         return;
+    if (m_nPlacing > 0) {
+        QMetaObject::invokeMethod(q, &QWidget::updateGeometry, Qt::QueuedConnection);
+        return;
+    }
     m_bNeedUpdate = false;
     updateData();
 }
@@ -176,19 +203,24 @@ void CustomTitleBarPrivate::dismantleLayout()
     }
     m_pCustomTitleLayout = nullptr;
     m_pCustomLayout->removeWidget(m_pCustomTitleWidget);
-    if (m_pStretch) {
-        m_pMenuLayout->removeItem(m_pStretch);
-        delete m_pStretch;
-        m_pStretch = nullptr;
-    }
+    dropStretch();
     m_pMenuLine->hide();
     m_pRowLine->hide();
+}
+
+void CustomTitleBarPrivate::dropStretch()
+{
+    if (!m_pStretch)
+        return;
+    m_pMenuLayout->removeItem(m_pStretch);
+    delete m_pStretch;
+    m_pStretch = nullptr;
 }
 
 void CustomTitleBarPrivate::initLayout()
 {
     dismantleLayout();
-    QHBoxLayout *root = newRow();
+    auto *root = new PlacingRow(&m_nPlacing);
     q->setLayout(root);
     const int left = number("LeftIconMargin");
     const int right = number("RightIconMargin");
@@ -201,7 +233,7 @@ void CustomTitleBarPrivate::initLayout()
 
 void CustomTitleBarPrivate::layOutCustomTitle(QBoxLayout *root, int left, int right, int spacing)
 {
-    m_pCustomTitleLayout = newRow();
+    m_pCustomTitleLayout = new PlacingRow(&m_nPlacing);
     m_pCustomTitleLayout->addWidget(m_pIconLabel);
     if (!m_pIconLabel->isHidden())
         m_pCustomTitleLayout->addSpacing(right);
@@ -245,17 +277,16 @@ void CustomTitleBarPrivate::layOutStandardTitle(QBoxLayout *root, int left, int 
     row->addSpacing(spacing);
     addWindowButtons(row, spacing);
 
-    auto *column = Custom::createLayout(Qt::Vertical);
-    column->addItem(row);
-    auto *box = static_cast<QVBoxLayout *>(column);
+    auto *column = static_cast<QVBoxLayout *>(Custom::createLayout(Qt::Vertical));
+    column->addLayout(row);
     if (m_bHasToolRow)
-        layOutToolRow(box);
+        layOutToolRow(column);
 
     root->setContentsMargins(left, 0, StandardTitle_RightMargin, 0);
     root->addWidget(m_pIconLabel);
     if (!m_pIconLabel->isHidden())
         root->addSpacing(right);
-    root->addLayout(box);
+    root->addLayout(column);
 }
 
 void CustomTitleBarPrivate::layOutToolRow(QBoxLayout *column)
@@ -312,6 +343,13 @@ CustomPushButton *CustomTitleBarPrivate::addMenu(const QString &text, CustomMenu
     if (m_pCustomTitleLayout)
         m_pMenuLine->show();
     return button;
+}
+
+void CustomTitleBarPrivate::addMenuStretch()
+{
+    dropStretch();
+    m_pMenuLayout->addStretch(0);
+    m_bMenuStretch = true;
 }
 
 QHBoxLayout *CustomTitleBarPrivate::toolGroup(bool left)

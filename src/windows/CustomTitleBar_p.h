@@ -36,6 +36,7 @@ public:
     CustomPushButton *addToolButton(bool left, int spacing);
     QWidget *addToolWidget(bool left, int spacing);
     CustomLineWidget *addToolSeparatorLine();
+    void addMenuStretch();
     void limitCursorRect(bool limit); ///< does nothing
 
     bool m_bMaximized = false; ///< by geometry
@@ -72,6 +73,7 @@ private:
     void createLines();
     void connectButtons();
     void dismantleLayout();
+    void dropStretch();
     void layOutCustomTitle(QBoxLayout *root, int left, int right, int spacing);
     void layOutStandardTitle(QBoxLayout *root, int left, int right, int spacing);
     void layOutToolRow(QBoxLayout *column);
@@ -82,6 +84,7 @@ private:
     QHBoxLayout *toolGroup(bool left);
     int number(const char *key) const;
 
+    int m_nPlacing = 0; // layouts that are placing their items just now
     QLayoutItem *m_pStretch = nullptr; // the bar's own, at the end of the row of menus
     // Kept from one layout to the next: a rebuild may run inside the line's own show.
     CustomLineWidget *m_pMenuLine; // before the window buttons of the custom layout

@@ -8,6 +8,7 @@
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -21,6 +22,7 @@ constexpr int Band_LeftTop = 10;
 constexpr int kMaxExtent = 32767;
 constexpr int kMaxPixels = 64 * 1024 * 1024;
 constexpr int Corner_Margin = 4;
+constexpr qreal kFarAway = 1 << 24;
 
 constexpr int kLeftEdges = Window::StrechLeft | Window::StrechTopLeft | Window::StrechBottomLeft;
 constexpr int kRightEdges = Window::StrechRight | Window::StrechTopRight | Window::StrechBottomRight;
@@ -88,6 +90,12 @@ QRegion stretchedRegion(const QRegion &region, const QSize &from, const QSize &t
 }
 
 } // namespace
+
+QPoint WindowGeometry::rounded(const QPointF &position)
+{
+    const auto whole = [](qreal value) { return int(std::lround(qBound(-kFarAway, value, kFarAway))); };
+    return QPoint(whole(position.x()), whole(position.y()));
+}
 
 WindowGeometry::Zone WindowGeometry::zoneAt(const QPoint &position, const QRect &frame, Edges edges)
 {

@@ -18,6 +18,9 @@ using Edges = CustomMainWindow::StrechEdges;
 using Widths = std::array<int, 4>; ///< px, by Custom::BorderEdge
 using Radii = std::array<QSize, 4>; ///< px, by Custom::BorderCorner
 
+/// Halves go away from zero.
+ZANTHIC_TEST_EXPORT QPoint rounded(const QPointF &position);
+
 /// What the mouse would do at a point.
 struct Zone
 {

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void readOnlyLeavesKeysToTheParent();
     void buttonShowsNoToolTip();
     void folderWidgetTakesWhatIsChosen();
+    void placeholderDiffersFromText();
 };
 
 void LineEditsTest::buttonComesWithTheNextShow()
@@ -153,6 +154,19 @@ void LineEditsTest::folderWidgetTakesWhatIsChosen()
         QVERIFY(dialogs == 2 && folder->text() == (row[2].isEmpty() ? row[1] : row[2]) && folder->isReadOnly());
         click(false);
         QVERIFY(dialogs == 3 && !window.edit);
+    }
+}
+
+void LineEditsTest::placeholderDiffersFromText()
+{
+    const QString sheet = scratchFile("QLineEdit { color: #ff0000 } QLineEdit:disabled { color: #0000ff }");
+    addDocument("<Class Name='A'><QSS><CustomLineEdit>" + sheet.toUtf8() + "</CustomLineEdit></QSS></Class>");
+    const Window window;
+    for (int skins = 0; skins < 2; ++skins) {
+        const QPalette colors = window.edit->palette();
+        QCOMPARE(colors.color(QPalette::Active, QPalette::PlaceholderText).name(QColor::HexArgb), "#a6ff0000");
+        QCOMPARE(colors.color(QPalette::Disabled, QPalette::PlaceholderText).name(QColor::HexArgb), "#a60000ff");
+        Custom::changeSkin();
     }
 }
 

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void fullScreenHidesBottomWindows();
     void maximisingEndsWhereItBegan();
     void stretchesByTheMouse();
+    void stretchesOfTwoWindows();
     void stretchEndsWithTheWindow();
 };
 
@@ -170,6 +171,10 @@ void MainWindowTest::buttonTexts()
     window.cAddCustomButtons(names("C", "D")); // not supported, and harmless
     window.show();
     QVERIFY(!window.cButton(0) && window.cButtonCount() == 6);
+    delete of(window)->m_pOkButton;
+    window.cSetButtons(Window::ButtonOk | Window::ButtonCancel);
+    QCoreApplication::sendEvent(&window, &language);
+    QVERIFY(window.cButton(5) == of(window)->m_pCancelButton);
 }
 
 void MainWindowTest::indexesAndSignals()
@@ -473,6 +478,35 @@ void MainWindowTest::stretchesByTheMouse()
     const QRect whole = window.geometry();
     drag(QPoint(whole.width() - 1, 100), QPoint(-50, 0));
     QCOMPARE(window.geometry(), whole);
+}
+
+void MainWindowTest::stretchesOfTwoWindows()
+{
+    Window a;
+    Window b;
+    for (Window *window : { &a, &b }) {
+        window->cSetStrechEdges(Window::StrechRight);
+        window->resize(300, 200);
+        window->show();
+    }
+    const QPoint edge(299, 100);
+    b.cTitleBar()->cSetEnableMove(false);
+    QTest::mousePress(&a, Qt::LeftButton, {}, edge);
+    QVERIFY(!a.cTitleBar()->cEnableMove());
+    QTest::mousePress(&b, Qt::LeftButton, {}, edge); // one pointer, one stretch
+    QVERIFY(a.cTitleBar()->cEnableMove());
+    QTest::mouseRelease(&b, Qt::LeftButton, {}, edge);
+    QVERIFY(!b.cTitleBar()->cEnableMove());
+    QTest::mousePress(&a, Qt::LeftButton, {}, edge);
+    Window modal;
+    modal.setModal(true);
+    modal.show(); // swallows the release
+    QVERIFY(!Private::g_StretchHelper.pressed && a.cTitleBar()->cEnableMove() && !QGuiApplication::overrideCursor());
+    modal.hide();
+    of(a)->judgeCursorPos(a.mapToGlobal(edge));
+    QVERIFY(QGuiApplication::overrideCursor());
+    a.cSetStrechEdges({});
+    QVERIFY(!QGuiApplication::overrideCursor());
 }
 
 void MainWindowTest::stretchEndsWithTheWindow()

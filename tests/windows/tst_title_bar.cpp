@@ -89,6 +89,7 @@ private Q_SLOTS:
     void maximises();
     void staysOnTop();
     void closesAndMinimises();
+    void itemsMayComeLate();
     void rebuildsAtAnyTime();
 };
 
@@ -307,6 +308,37 @@ void TitleBarTest::closesAndMinimises()
     for (CustomPushButton *button : alone.findChildren<CustomPushButton *>())
         button->click();
     QVERIFY(!alone.cIsMaximized() && !alone.cIsStayOnTop());
+}
+
+void TitleBarTest::itemsMayComeLate()
+{
+    CustomMainWindow window;
+    window.resize(600, 300);
+    Bar *bar = window.cTitleBar();
+    window.show();
+    bar->cAddMenuLayoutStretch();
+    const CustomPushButton *right = bar->cAddMenu(QStringLiteral("Right"), nullptr);
+    QTRY_VERIFY(right->isVisible() && right->x() > 300); // behind the stretch that the application added
+    // A widget in the bar that makes it lay itself out while it is being laid out.
+    struct Nested : QWidget
+    {
+        void resizeEvent(QResizeEvent *) override
+        {
+            auto *owner = static_cast<Bar *>(parentWidget());
+            owner->cSetTitleText(QString::number(++count));
+            owner->sizeHint();
+        }
+        int count = 0;
+    };
+    bar->cAddToolButton(false, 3);
+    auto *nested = new Nested;
+    nested->setParent(bar);
+    Private::get(bar)->m_pToolRightLayout->addWidget(nested);
+    for (int width = 500; width < 600; width += 20) {
+        window.resize(width, 300);
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(nested->count > 0);
 }
 
 void TitleBarTest::rebuildsAtAnyTime()

@@ -50,6 +50,8 @@ void WindowGeometryTest::margins()
     QCOMPARE(shadowMargins(QPointF(3, -2), 15.f), QMargins(4, 9, 10, 5)); // 7.5 -+ 3, 7.5 -+ -2, cut
     QCOMPARE(borderMargins({ 1, 2, 3, 4 }, false), QMargins(1, 3, 2, 4));
     QCOMPARE(borderMargins({ 1, 2, 3, 4 }, true), QMargins(2, 3, 3, 5)); // none at the top
+    QCOMPARE(rounded(QPointF(-10.5, 10.5)), QPoint(-11, 11));
+    QCOMPARE(borderMargins({ INT_MAX, 0, 0, 0 }, true).left(), QWIDGETSIZE_MAX + 1);
     QCOMPARE(residual(QRect(2, 1, 96, 32), 100), QRect(0, 1, 100, 32));
 }
 
