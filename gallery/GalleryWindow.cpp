@@ -26,12 +26,12 @@
 
 namespace {
 
-constexpr QSize StartSize(1264, 840);
-constexpr QSize SmallestSize(1024, 480); // by stretching
+constexpr QSize StartSize(1272, 840);
 constexpr CustomMainWindow::StrechEdges AllEdges(255);
 constexpr QSize Caption_Size(160, 32);
 constexpr int SidebarWidth = 224;
 constexpr int Margin = 24;
+constexpr int Stretch_Margin = 8; // beside the scroll bars, which would take the presses for stretching
 constexpr int Gap = 8;
 constexpr int Setting_Height = 32;
 
@@ -71,11 +71,11 @@ GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent)
     m_pScrollArea->setWidgetResizable(true);
     m_pScrollArea->setFrameShape(QFrame::NoFrame);
     m_pScrollArea->setFocusPolicy(Qt::NoFocus);
+    m_pScrollArea->setCornerWidget(new QWidget); // which paints nothing
 
     setUpTitleBar();
     createContent();
     cSetStrechEdges(AllEdges);
-    cSetMinStrechSize(SmallestSize);
     // By clicks only: showing a choice that was made elsewhere must not make it again.
     const auto clicked = QOverload<QAbstractButton *>::of(&QButtonGroup::buttonClicked);
     connect(m_pSkinGroup, clicked, this,
@@ -106,7 +106,10 @@ void GalleryWindow::createContent()
     auto *right = new QVBoxLayout;
     right->setSpacing(0);
     right->addWidget(createHeader());
-    right->addWidget(m_pScrollArea, 1);
+    auto *page = new QHBoxLayout;
+    page->setContentsMargins(0, 0, Stretch_Margin, Stretch_Margin);
+    page->addWidget(m_pScrollArea);
+    right->addLayout(page, 1);
     auto *all = new QHBoxLayout(content);
     all->setContentsMargins(0, 0, 0, 0);
     all->setSpacing(0);
@@ -237,8 +240,12 @@ void GalleryWindow::savePicture()
         tr("Pictures (*.png)"), m_pageName + QStringLiteral(".png"), QStringLiteral("png"));
     if (path.isEmpty() || !m_pPage)
         return;
-    if (!m_pPage->grab().save(path))
-        CustomMessageBox::warning(this, path, {}, ButtonOk, tr("The picture can't be written."));
+    QPixmap picture(m_pPage->size() * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(cBackgroundColor().color());
+    m_pPage->render(&picture, {}, {}, DrawChildren);
+    if (!picture.save(path))
+        CustomMessageBox::warning(this, path, {}, ButtonOk, tr("Saving failed"));
 }
 
 void GalleryWindow::openAnother()
@@ -325,6 +332,14 @@ void GalleryWindow::retranslate()
     cTitleBar()->cSetTitleText(tr("Zanthic gallery"));
     setWindowTitle(tr("Zanthic gallery"));
     m_pMenus->retranslate();
+}
+
+bool GalleryWindow::event(QEvent *event)
+{
+    const bool done = CustomMainWindow::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
+        cSetMinStrechSize(minimumSizeHint());
+    return done;
 }
 
 void GalleryWindow::changeEvent(QEvent *event)

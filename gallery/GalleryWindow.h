@@ -46,6 +46,7 @@ public:
     QPixmap picture();
 
 protected:
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void customEvent(QEvent *event) override;
 

@@ -125,7 +125,7 @@ void ToolTipsPage::addButtons()
         auto *button = translated(new Roomy<CustomPushButton>(this, CustomPushButton::MiddleBase), tip.caption);
         connect(button, &CustomPushButton::clicked, button, [button, &tip] {
             const LookGuard guard(tip);
-            const QPoint below = button->mapToGlobal(button->rect().center());
+            const QPoint below = button->mapToGlobal(QPoint(button->width() / 2, button->height()));
             CustomToolTip::showText(below, textOf(tip), button, button->rect(), tip.lifetime, true);
         });
         buttons << button;

@@ -102,8 +102,6 @@ WindowsPage::~WindowsPage() = default;
 void WindowsPage::addPictures()
 {
     Card *card = addCard(QT_TR_NOOP("A window"), QT_TR_NOOP("Title bar, content and buttons all come from the theme."));
-    auto *bar = new Snapshot(
-        [] { return pictureOf(withBar(newWindow(tr("A dialog"), tr("Content"), nullptr), Qt::AlignRight)); });
     auto *custom = new Snapshot([] {
         return pictureOf(withCustomButtons(
             newWindow(tr("Three choices"), tr("Content"), nullptr), { tr("Later"), tr("Never"), tr("Now") }));
@@ -111,7 +109,7 @@ void WindowsPage::addPictures()
     auto *tools = new Snapshot([] {
         return pictureOf(withTools(newWindow(tr("With tools"), tr("Content"), nullptr), tr("Menu"), { tr("An item") }));
     });
-    card->add(row({ bar, custom, tools }, 16));
+    card->add(row({ custom, tools }, 16));
 }
 
 Roomy<CustomPushButton> *WindowsPage::opener(const char *words, std::function<void()> open)

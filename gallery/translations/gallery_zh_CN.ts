@@ -786,12 +786,12 @@ Ctrl+E 启用或禁用</translation>
         <translation>图片 (*.png)</translation>
     </message>
     <message>
-        <source>The picture can&apos;t be written.</source>
-        <translation>无法写入图片。</translation>
-    </message>
-    <message>
         <source>Zanthic: themed desktop widgets for Qt 5</source>
         <translation>Zanthic：Qt 5 的主题化桌面控件</translation>
+    </message>
+    <message>
+        <source>Saving failed</source>
+        <translation>保存失败</translation>
     </message>
 </context>
 <context>
