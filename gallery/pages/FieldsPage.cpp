@@ -17,7 +17,7 @@ namespace {
 
 constexpr int Field_Width = 200;
 constexpr int Path_Width = 320;
-constexpr int TextEdit_Height = 96;
+constexpr int TextEdit_Height = 72; // less than the texts need;
 
 template <class Edit>
 Edit *sized(Edit *edit, int width = Field_Width)
