@@ -155,6 +155,7 @@ QWidget *CustomTitleBar::cAddCustomWidget()
 {
     auto *widget = new QWidget(this);
     d->m_pCustomLayout->addWidget(widget);
+    d->showAdded(widget);
     return widget;
 }
 
@@ -282,6 +283,15 @@ void CustomTitleBar::customEvent(QEvent *event)
     d->m_bNeedUpdate = true;
     if (isVisible())
         d->ensureUpdated();
+}
+
+void CustomTitleBar::childEvent(QChildEvent *event)
+{
+    // A widget that is destroyed is none any more. Qt tells the bar's layout only, where its row may not stand just
+    // now.
+    if (d && event->removed() && !qobject_cast<QWidget *>(event->child()))
+        d->forget(event->child());
+    QWidget::childEvent(event);
 }
 
 // Each mouse event is left ignored, so that it goes on to the window, which stretches with it.

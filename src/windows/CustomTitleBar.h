@@ -98,6 +98,7 @@ protected Q_SLOTS:
 
 protected:
     void customEvent(QEvent *event) override;
+    void childEvent(QChildEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;

@@ -339,10 +339,29 @@ CustomPushButton *CustomTitleBarPrivate::addMenu(const QString &text, CustomMenu
     const int position = m_pStretch ? m_pMenuLayout->count() - 1 : m_pMenuLayout->count();
     m_pMenuLayout->insertWidget(position, button);
     m_pMenuLayout->insertSpacing(position + 1, MenuButton_Spacing);
+    showAdded(button);
     m_bHasMenu = true;
     if (m_pCustomTitleLayout)
         m_pMenuLine->show();
     return button;
+}
+
+void CustomTitleBarPrivate::showAdded(QWidget *item)
+{
+    if (!q->isVisible())
+        return;
+    item->show();
+    q->updateGeometry();
+}
+
+void CustomTitleBarPrivate::forget(const QObject *item)
+{
+    for (QHBoxLayout *row : { m_pMenuLayout, m_pCustomLayout, m_pToolLayout, m_pToolRightLayout }) {
+        for (int i = row ? row->count() - 1 : -1; i >= 0; --i) {
+            if (row->itemAt(i)->widget() == item)
+                delete row->takeAt(i);
+        }
+    }
 }
 
 void CustomTitleBarPrivate::addMenuStretch()
@@ -372,6 +391,7 @@ CustomPushButton *CustomTitleBarPrivate::addToolButton(bool left, int spacing)
     QHBoxLayout *group = toolGroup(left);
     group->addWidget(button);
     group->addSpacing(spacing);
+    showAdded(button);
     return button;
 }
 
@@ -382,6 +402,7 @@ QWidget *CustomTitleBarPrivate::addToolWidget(bool left, int spacing)
     QHBoxLayout *group = toolGroup(left);
     group->addWidget(widget);
     group->addSpacing(spacing);
+    showAdded(widget);
     return widget;
 }
 
@@ -393,6 +414,7 @@ CustomLineWidget *CustomTitleBarPrivate::addToolSeparatorLine()
     line->cSetIsDottedLine(!m_bTitleIsCustom);
     m_pToolLayout->addWidget(line);
     m_pToolLayout->addSpacing(m_bTitleIsCustom ? ToolLine_CustomSpacing : ToolLine_StandardSpacing);
+    showAdded(line);
     return line;
 }
 

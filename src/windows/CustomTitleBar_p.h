@@ -37,6 +37,8 @@ public:
     QWidget *addToolWidget(bool left, int spacing);
     CustomLineWidget *addToolSeparatorLine();
     void addMenuStretch();
+    void showAdded(QWidget *item); ///< an item that was added while the bar is visible
+    void forget(const QObject *item); ///< an item that was deleted
     void limitCursorRect(bool limit); ///< does nothing
 
     bool m_bMaximized = false; ///< by geometry

@@ -330,15 +330,24 @@ void TitleBarTest::itemsMayComeLate()
         }
         int count = 0;
     };
-    bar->cAddToolButton(false, 3);
+    const CustomPushButton *tool = bar->cAddToolButton(false, 3);
     auto *nested = new Nested;
     nested->setParent(bar);
     Private::get(bar)->m_pToolRightLayout->addWidget(nested);
+    nested->show();
+    QTRY_VERIFY(tool->isVisible() && tool->x() > 300);
     for (int width = 500; width < 600; width += 20) {
         window.resize(width, 300);
         QCoreApplication::processEvents();
     }
     QVERIFY(nested->count > 0);
+    // Items are the application's to delete, also from a row that isn't laid out.
+    Bar alone;
+    delete alone.cAddToolButton();
+    delete alone.cAddMenu(QString(), nullptr);
+    delete alone.cAddCustomWidget();
+    delete alone.cAddToolSeparatorLine();
+    alone.show();
 }
 
 void TitleBarTest::rebuildsAtAnyTime()
