@@ -7,8 +7,11 @@
 #include "pages/PageRegistry.h"
 
 #include <Zanthic/CustomLineEdit.h>
+#include <Zanthic/CustomPushButton.h>
 
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QScrollArea>
@@ -109,6 +112,46 @@ private Q_SLOTS:
                  std::pair(Qt::Key_E, "light en_US off"_s) }) {
             QCOMPARE(press(field, key), state);
             QCOMPARE(press(gallery.window.get(), key), "light en_US"_s);
+        }
+    }
+
+    void menusChooseForTheWholeProgram()
+    {
+        Gallery gallery("boxes"_s);
+        const auto item = [&gallery](const QString &name) { return gallery.window->findChild<QAction *>(name); };
+        for (const auto &name : { "dark"_s, "zh_CN"_s, "menus"_s })
+            item(name)->trigger();
+        QCOMPARE(
+            gallery.appearance.skin() + gallery.appearance.language() + gallery.window->pageName(), "darkzh_CNmenus"_s);
+        gallery.appearance.nextSkin();
+        QVERIFY(item("light"_s)->isChecked() && !item("dark"_s)->isChecked() && item("menus"_s)->isChecked());
+        // The library's own texts come along.
+        QCOMPARE(CustomMainWindow::tr("OK"), QString::fromUtf16(u"\u786e\u5b9a"));
+        item("en_US"_s)->trigger();
+        QCOMPARE(CustomMainWindow::tr("OK"), "OK"_s);
+    }
+
+    void everySampleOpensAndCloses()
+    {
+        for (const auto &page : { "menus"_s, "windows"_s, "dialogs"_s }) {
+            Gallery gallery(page);
+            gallery.window->show();
+            int opened = 0;
+            QTimer closer;
+            connect(&closer, &QTimer::timeout, [&] {
+                for (QWidget *widget : QApplication::topLevelWidgets()) {
+                    if (widget != gallery.window.get() && widget->isVisible())
+                        opened += int(widget->close());
+                }
+            });
+            closer.start(10);
+            for (auto *button : gallery.window->page()->findChildren<CustomPushButton *>()) {
+                if (button->window() != gallery.window.get())
+                    continue; // one that stands in a menu
+                const int before = opened;
+                button->click();
+                QTRY_VERIFY2(opened > before, qPrintable(button->text()));
+            }
         }
     }
 
