@@ -37,7 +37,9 @@ CustomMainWindow::CustomMainWindow(QWidget *parent)
 
 CustomMainWindow::~CustomMainWindow()
 {
-    // QDialog hides the window only when this class's hideEvent() is gone.
+    // QDialog hides the window only when this class is gone, which the content may still want to ask something.
+    if (isVisible())
+        hide();
     CustomPrivate::removeModalWidget(this);
 }
 

@@ -122,7 +122,10 @@ void CustomMessageBox::cEndSetParameter()
         d->m_eHintStyle = before->m_eHintStyle;
         delete before;
     }
+    const QPointer<CustomMessageBox> self(this);
     setWindowTitle(d->m_strTextTitle.isEmpty() ? d->m_strContent : d->m_strTextTitle);
+    if (!self)
+        return;
     d->initUI();
     if (again) {
         CustomMessageBoxPrivate::placePanel(this);

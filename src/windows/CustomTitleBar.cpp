@@ -289,7 +289,7 @@ void CustomTitleBar::childEvent(QChildEvent *event)
 {
     // A widget that is destroyed is none any more. Qt tells the bar's layout only, where its row may not stand just
     // now.
-    if (d && event->removed() && !qobject_cast<QWidget *>(event->child()))
+    if (d && event->removed() && !event->child()->metaObject()->inherits(&QWidget::staticMetaObject))
         d->forget(event->child());
     QWidget::childEvent(event);
 }

@@ -172,6 +172,9 @@ void CustomTitleBarPrivate::updateData()
 {
     QFont font = q->cFont(Custom::Normal, {});
     font.setWeight(QFont::Bold);
+    // The bar itself isn't told of a change of language.
+    if (!q->cHasParameter(Custom::ParamUserFontFamily) && !Custom::globalFontFamily().isEmpty())
+        font.setFamily(Custom::globalFontFamily());
     m_pTitleLabel->cSetFont(font, Custom::Normal, {});
     m_pTitleLabel->cSetFontColor(q->cFontColor(Custom::Normal, {}).name(), Custom::Normal, {});
     initLayout();

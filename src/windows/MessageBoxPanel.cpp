@@ -40,6 +40,14 @@ QString lineBreak()
     return QStringLiteral("\r\n");
 }
 
+QString withoutEndBlanks(const QString &line)
+{
+    int length = line.size();
+    while (length > 0 && line.at(length - 1).isSpace())
+        --length;
+    return line.left(length);
+}
+
 QStringList linesOf(const QString &text)
 {
     return text.split(lineBreak(), Qt::SkipEmptyParts);
@@ -186,8 +194,10 @@ void CMessageBoxLabel::paintEvent(QPaintEvent *event)
     }
     QRect strip(0, 0, width(), m_nLineHeight);
     for (const QString &line : lines) {
+        // A blank at the end would shift the line, whose ink alone is measured, out of its place.
         if (strip.intersects(event->rect()))
-            style()->drawItemText(&painter, strip, flags, colors, isEnabled(), line, QPalette::WindowText);
+            style()->drawItemText(
+                &painter, strip, flags, colors, isEnabled(), withoutEndBlanks(line), QPalette::WindowText);
         strip.translate(0, m_nLineHeight);
     }
 }
