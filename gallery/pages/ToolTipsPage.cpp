@@ -78,8 +78,8 @@ protected:
     }
 
 private:
-    QWidget m_host; // stays hidden
     QPointer<QWidget> m_pTip;
+    QWidget m_host; // stays hidden
 };
 
 QString textOf(const Tip &tip)

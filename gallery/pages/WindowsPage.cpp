@@ -214,9 +214,7 @@ void WindowsPage::open(CustomMainWindow *window)
     connect(window, &CustomMainWindow::cSigButtonClick, this, [this, window](int index) {
         m_nAnswer = index;
         showAnswer();
-        // Those of its own close nothing by themselves.
-        if (index < window->cButtonCount() && !window->cButton(index)->text().isEmpty())
-            window->close();
+        window->close(); // which buttons of its own don't do by themselves
     });
     window->show();
 }
