@@ -111,7 +111,6 @@ void FieldsPage::addTextEdits()
     for (int i = 0; i < names.keyCount(); ++i) {
         auto *edit = new CustomTextEdit(this);
         edit->cSetStyleSelector(QString::fromLatin1(names.key(i)));
-        edit->cNotifyUpdateValue({}, {}, Custom::Normal); // its sheet is made anew only with a value
         edit->setFixedHeight(TextEdit_Height);
         auto *column = new QVBoxLayout;
         column->setSpacing(8);
