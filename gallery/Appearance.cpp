@@ -64,10 +64,15 @@ void Appearance::applyLanguage(const QString &language)
     m_language = language;
     setLibraryLanguage();
     // Installing and removing are what tells the widgets, so the library has to know the language before.
-    QCoreApplication::removeTranslator(&m_oTranslator);
-    const QString folder = QStringLiteral(":/Gallery/gallery_");
-    if (language != languages().constFirst() && m_oTranslator.load(folder + language))
-        QCoreApplication::installTranslator(&m_oTranslator);
+    const QPair<QTranslator *, QString> translators[] = {
+        { &m_oLibraryTranslator, QStringLiteral(":/Zanthic/translations/zanthic_%1.qm") },
+        { &m_oTranslator, QStringLiteral(":/Gallery/gallery_%1.qm") },
+    };
+    for (const auto &[translator, path] : translators) {
+        QCoreApplication::removeTranslator(translator);
+        if (language != languages().constFirst() && translator->load(path.arg(language)))
+            QCoreApplication::installTranslator(translator);
+    }
     Q_EMIT languageChanged(language);
 }
 

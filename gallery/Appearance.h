@@ -38,7 +38,8 @@ Q_SIGNALS:
 private:
     void setLibraryLanguage();
 
-    QTranslator m_oTranslator;
+    QTranslator m_oLibraryTranslator; // of the library's own texts
+    QTranslator m_oTranslator; // of the gallery's
     QString m_skin;
     QString m_language;
 };

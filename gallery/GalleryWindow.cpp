@@ -1,31 +1,37 @@
 #include "GalleryWindow.h"
 
 #include "Appearance.h"
+#include "GalleryMenus.h"
 #include "pages/GalleryPage.h"
 #include "pages/PageRegistry.h"
 #include "parts/NavigationButton.h"
+#include "parts/Snapshot.h"
 #include "parts/TextLabel.h"
+#include "parts/WindowKeys.h"
 
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/CustomCheckBox.h>
 #include <Zanthic/CustomFrame.h>
+#include <Zanthic/CustomMessageBox.h>
 #include <Zanthic/CustomRadioButton.h>
+#include <Zanthic/CustomTitleBar.h>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
 #include <QtCore/QEvent>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QShortcut>
-
-#include <functional>
 
 namespace {
 
-constexpr QSize StartSize(1216, 800);
+constexpr QSize StartSize(1272, 840);
+constexpr CustomMainWindow::StrechEdges AllEdges(255);
+constexpr QSize Caption_Size(160, 32);
 constexpr int SidebarWidth = 224;
 constexpr int Margin = 24;
+constexpr int Stretch_Margin = 8; // beside the scroll bars, which would take the presses for stretching
 constexpr int Gap = 8;
 constexpr int Setting_Height = 32;
 
@@ -50,45 +56,26 @@ void addSetting(QWidget *area, QWidget *caption, QLayout *controls)
     layout->addWidget(row);
 }
 
-/// The name that the user reads. Skins are named by the theme, languages by themselves.
-QString displayName(const QString &name)
-{
-    if (name == QLatin1String("light"))
-        return GalleryWindow::tr("Light");
-    if (name == QLatin1String("dark"))
-        return GalleryWindow::tr("Dark");
-    if (name == QLatin1String("en_US"))
-        return QStringLiteral("English");
-    if (name == QLatin1String("zh_CN"))
-        return QStringLiteral("\u7b80\u4f53\u4e2d\u6587");
-    return name;
-}
-
 } // namespace
 
 GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent)
-    : CustomWidget(parent),
+    : CustomMainWindow(parent),
       m_pAppearance(appearance),
+      m_pMenus(new GalleryMenus(this, appearance)),
       m_pScrollArea(new QScrollArea(this)),
       m_pSkinGroup(new QButtonGroup(this)),
       m_pLanguageGroup(new QButtonGroup(this))
 {
-    cSetClassName(QStringLiteral("GalleryWindow"));
+    new WindowKeys(this);
+    m_pScrollArea->setObjectName(QStringLiteral("page"));
     m_pScrollArea->setWidgetResizable(true);
     m_pScrollArea->setFrameShape(QFrame::NoFrame);
     m_pScrollArea->setFocusPolicy(Qt::NoFocus);
+    m_pScrollArea->setCornerWidget(new QWidget); // which paints nothing
 
-    auto *right = new QVBoxLayout;
-    right->setSpacing(0);
-    right->addWidget(createHeader());
-    right->addWidget(m_pScrollArea, 1);
-    auto *all = new QHBoxLayout(this);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
-    all->addWidget(createSidebar());
-    all->addLayout(right, 1);
-
-    createShortcuts();
+    setUpTitleBar();
+    createContent();
+    cSetStrechEdges(AllEdges);
     // By clicks only: showing a choice that was made elsewhere must not make it again.
     const auto clicked = QOverload<QAbstractButton *>::of(&QButtonGroup::buttonClicked);
     connect(m_pSkinGroup, clicked, this,
@@ -104,6 +91,32 @@ GalleryWindow::GalleryWindow(Appearance *appearance, QWidget *parent)
 }
 
 GalleryWindow::~GalleryWindow() = default;
+
+void GalleryWindow::setUpTitleBar()
+{
+    cTitleBar()->cSetTitleIsCustom(true);
+    cTitleBar()->cSetCustomTextSize(Caption_Size);
+    cTitleBar()->cSetTitleIcon(QStringLiteral(":/Zanthic/TitleBar/Icon.png"));
+    m_pMenus->build();
+}
+
+void GalleryWindow::createContent()
+{
+    auto *content = new QWidget(this);
+    auto *right = new QVBoxLayout;
+    right->setSpacing(0);
+    right->addWidget(createHeader());
+    auto *page = new QHBoxLayout;
+    page->setContentsMargins(0, 0, Stretch_Margin, Stretch_Margin);
+    page->addWidget(m_pScrollArea);
+    right->addLayout(page, 1);
+    auto *all = new QHBoxLayout(content);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(createSidebar());
+    all->addLayout(right, 1);
+    cSetCentralWidget(content);
+}
 
 QWidget *GalleryWindow::createSidebar()
 {
@@ -179,17 +192,18 @@ QWidget *GalleryWindow::createEnableSwitch()
     return area;
 }
 
-void GalleryWindow::createShortcuts()
+// Skins are named by the theme, languages by themselves.
+QString GalleryWindow::displayName(const QString &name)
 {
-    const QVector<QPair<Qt::Key, std::function<void()>>> keys = {
-        { Qt::Key_T, [this] { m_pAppearance->nextSkin(); } },
-        { Qt::Key_L, [this] { m_pAppearance->nextLanguage(); } },
-        { Qt::Key_E, [this] { m_pEnabled->toggle(); } },
-    };
-    for (const auto &[key, action] : keys) {
-        auto *shortcut = new QShortcut(QKeySequence(int(Qt::CTRL) | int(key)), this);
-        connect(shortcut, &QShortcut::activated, this, action);
-    }
+    if (name == QLatin1String("light"))
+        return tr("Light");
+    if (name == QLatin1String("dark"))
+        return tr("Dark");
+    if (name == QLatin1String("en_US"))
+        return QStringLiteral("English");
+    if (name == QLatin1String("zh_CN"))
+        return QStringLiteral("\u7b80\u4f53\u4e2d\u6587");
+    return name;
 }
 
 void GalleryWindow::openPage(const QString &name)
@@ -202,27 +216,75 @@ void GalleryWindow::openPage(const QString &name)
     m_pScrollArea->setWidget(page); // deletes the page before
     page->setAutoFillBackground(false);
     m_pScrollArea->viewport()->setAutoFillBackground(false);
-    setPageEnabled(m_pEnabled->isChecked());
+    m_pPage->setEnabled(m_pEnabled->isChecked());
+    showChoices();
     retranslate();
 }
 
 void GalleryWindow::setPageEnabled(bool enabled)
 {
+    m_pEnabled->setChecked(enabled);
     if (m_pPage)
         m_pPage->setEnabled(enabled);
+    showChoices();
+}
+
+bool GalleryWindow::isPageEnabled() const
+{
+    return m_pEnabled->isChecked();
+}
+
+void GalleryWindow::savePicture()
+{
+    const QString path = Custom::getSaveFileName(this, tr("Save a picture of the page"), QDir::homePath(),
+        tr("Pictures (*.png)"), m_pageName + QStringLiteral(".png"), QStringLiteral("png"));
+    if (path.isEmpty() || !m_pPage)
+        return;
+    QPixmap picture(m_pPage->size() * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(cBackgroundColor().color());
+    m_pPage->render(&picture, {}, {}, DrawChildren);
+    if (!picture.save(path))
+        CustomMessageBox::warning(this, path, {}, ButtonOk, tr("Saving failed"));
+}
+
+void GalleryWindow::openAnother()
+{
+    auto *window = new GalleryWindow(m_pAppearance);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->openPage(m_pageName);
+    window->show();
+}
+
+void GalleryWindow::showAbout()
+{
+    CustomMessageBox::information(
+        this, Custom::version(), {}, ButtonOk, tr("Zanthic: themed desktop widgets for Qt 5"));
 }
 
 QPixmap GalleryWindow::picture()
 {
+    // The window finishes itself when it is shown. As a child of what stays hidden, it doesn't appear.
+    const bool wasVisible = isVisible();
+    const Qt::WindowFlags flags = windowFlags();
+    QWidget host;
+    if (!wasVisible) {
+        setParent(&host);
+        Snapshot::showAll(this);
+    }
     // A page may wrap its texts differently once the scroll bar is gone, hence the second turn.
     for (int turn = 0; turn < 2 && m_pPage; ++turn) {
         QCoreApplication::sendPostedEvents();
         grab(QRect(0, 0, 1, 1)); // lays out a window that isn't shown, too
         const int needed
             = qMax(m_pPage->heightForWidth(m_pScrollArea->viewport()->width()), m_pPage->minimumSizeHint().height());
-        resize(width(), height() + needed - m_pScrollArea->viewport()->height());
+        const int change = needed - m_pScrollArea->viewport()->height();
+        resize(width(), qMax(height() + change, minimumSizeHint().height()));
     }
-    return grab();
+    const QPixmap all = Snapshot::rounded(grab(), cBorderRadius(Custom::AllCorner));
+    if (!wasVisible)
+        setParent(nullptr, flags);
+    return all;
 }
 
 void GalleryWindow::showChoices()
@@ -236,6 +298,7 @@ void GalleryWindow::showChoices()
     };
     check(m_pSkinGroup, m_pAppearance->skin());
     check(m_pLanguageGroup, m_pAppearance->language());
+    m_pMenus->showChoices();
 }
 
 void GalleryWindow::styleScrollArea()
@@ -266,19 +329,29 @@ void GalleryWindow::retranslate()
     const QList<QAbstractButton *> skins = m_pSkinGroup->buttons();
     for (QAbstractButton *button : skins)
         button->setText(displayName(button->objectName()));
+    cTitleBar()->cSetTitleText(tr("Zanthic gallery"));
     setWindowTitle(tr("Zanthic gallery"));
+    m_pMenus->retranslate();
+}
+
+bool GalleryWindow::event(QEvent *event)
+{
+    const bool done = CustomMainWindow::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show)
+        cSetMinStrechSize(minimumSizeHint());
+    return done;
 }
 
 void GalleryWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         retranslate();
-    CustomWidget::changeEvent(event);
+    CustomMainWindow::changeEvent(event);
 }
 
 void GalleryWindow::customEvent(QEvent *event)
 {
-    CustomWidget::customEvent(event);
+    CustomMainWindow::customEvent(event);
     if (int(event->type()) == ChangeSkinEvent::EventType)
         styleScrollArea();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <Zanthic/CustomWidget.h>
+#include <Zanthic/CustomMainWindow.h>
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
@@ -8,6 +8,7 @@
 class Appearance;
 class CustomCheckBox;
 class CustomRadioButton;
+class GalleryMenus;
 class GalleryPage;
 class NavigationButton;
 class QButtonGroup;
@@ -16,9 +17,10 @@ class QScrollArea;
 class QVBoxLayout;
 class TextLabel;
 
-/// The shell of the gallery: the list of pages at the left, the page's title and the choosers at the top, the page
-/// itself below. Ctrl+T takes the next skin, Ctrl+L the next language, Ctrl+E enables or disables the page.
-class GalleryWindow : public CustomWidget
+/// The shell of the gallery: menus in the title bar, the list of pages at the left, the page's title and the choosers
+/// at the top, the page itself below. Ctrl+T takes the next skin, Ctrl+L the next language, Ctrl+E enables or disables
+/// the page.
+class GalleryWindow : public CustomMainWindow
 {
     Q_OBJECT
 
@@ -32,20 +34,29 @@ public:
     GalleryPage *page() const { return m_pPage; } ///< null until a page was opened
     QString pageName() const { return m_pageName; }
 
+    void setPageEnabled(bool enabled);
+    bool isPageEnabled() const;
+    void savePicture(); ///< asks where to
+    void openAnother(); ///< a second window, which owns itself, with the same page
+    void showAbout();
+    /// The name of a skin or a language that the user reads.
+    static QString displayName(const QString &name);
+
     /// The window with all of its page, stretched as far as the page needs.
     QPixmap picture();
 
 protected:
+    bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void customEvent(QEvent *event) override;
 
 private:
+    void setUpTitleBar();
+    void createContent();
     QWidget *createSidebar();
     QWidget *createHeader();
     QWidget *createEnableSwitch();
     QWidget *createChooser(const QStringList &names, QButtonGroup *group, TextLabel **caption);
-    void createShortcuts();
-    void setPageEnabled(bool enabled);
     void showChoices();
     void styleScrollArea();
     void retranslate();
@@ -53,6 +64,7 @@ private:
     Appearance *m_pAppearance;
     QString m_pageName;
     GalleryPage *m_pPage = nullptr;
+    GalleryMenus *m_pMenus;
     QScrollArea *m_pScrollArea;
     QList<NavigationButton *> m_lstNavigation;
     QButtonGroup *m_pSkinGroup;

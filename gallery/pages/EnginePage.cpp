@@ -2,11 +2,11 @@
 
 #include "parts/BoxSpecimens.h"
 #include "parts/Card.h"
-#include "parts/Field.h"
 #include "parts/Roomy.h"
 
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomLineEdit.h>
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomRadioButton.h>
 
@@ -68,8 +68,8 @@ EnginePage::EnginePage(QWidget *parent) : GalleryPage(parent), m_pStatuses(new Q
     addQuestion();
     addAnswer();
     addControl();
-    for (Field *field : { m_pClass, m_pParentClass, m_pSelector, m_pSubSelectors, m_pAttribute })
-        connect(field, &Field::textChanged, this, &EnginePage::applyQuery);
+    for (CustomLineEdit *field : { m_pClass, m_pParentClass, m_pSelector, m_pSubSelectors, m_pAttribute })
+        connect(field, &CustomLineEdit::textChanged, this, &EnginePage::applyQuery);
     const QList<QAbstractButton *> statuses = m_pStatuses->buttons();
     for (QAbstractButton *button : statuses)
         connect(button, &QAbstractButton::clicked, this, &EnginePage::applyQuery);
@@ -86,7 +86,7 @@ void EnginePage::addQuestion()
     grid->setHorizontalSpacing(Gap);
     grid->setVerticalSpacing(Gap);
     const auto addField = [&](int line, int column, const char *caption) {
-        auto *field = new Field(this);
+        auto *field = new CustomLineEdit(this);
         grid->addWidget(text(caption, TextLabel::Body), line, column);
         grid->addWidget(field, line, column + 1);
         return field;
@@ -194,14 +194,14 @@ QWidget *EnginePage::createPreview()
 
 QLayout *EnginePage::createOverrideRow()
 {
-    m_pOverride = new Field(this);
+    m_pOverride = new CustomLineEdit(this);
     m_pSetOverride = translated(new Roomy<CustomPushButton>(this), QT_TR_NOOP("Set"));
     auto *document = translated(
         new Roomy<CustomPushButton>(this, CustomPushButton::MiddleBase), QT_TR_NOOP("Take the document anew"));
     auto *renew
         = translated(new Roomy<CustomPushButton>(this, CustomPushButton::MiddleBase), QT_TR_NOOP("New control"));
     connect(m_pSetOverride, &CustomPushButton::clicked, this, [this] { setOverride(m_pOverride->text()); });
-    connect(m_pOverride, &Field::returnPressed, this, [this] { setOverride(m_pOverride->text()); });
+    connect(m_pOverride, &CustomLineEdit::returnPressed, this, [this] { setOverride(m_pOverride->text()); });
     connect(document, &CustomPushButton::clicked, this, &EnginePage::takeDocument);
     connect(renew, &CustomPushButton::clicked, this, &EnginePage::renewControl);
     auto *layout = new QHBoxLayout;

@@ -9,8 +9,8 @@
 
 class BoxSpecimen;
 class CustomCheckBox;
+class CustomLineEdit;
 class CustomPushButton;
-class Field;
 class QButtonGroup;
 
 /// Asks the style engine for one attribute, explains where the value comes from, and shows a live control of the
@@ -68,12 +68,12 @@ private:
     QString origin(const AttributeQuery &query, const Resolution &resolution) const;
     QString placeName(Place place, const AttributeQuery &query) const;
 
-    Field *m_pClass = nullptr;
-    Field *m_pParentClass = nullptr;
-    Field *m_pSelector = nullptr;
-    Field *m_pSubSelectors = nullptr;
-    Field *m_pAttribute = nullptr;
-    Field *m_pOverride = nullptr;
+    CustomLineEdit *m_pClass = nullptr;
+    CustomLineEdit *m_pParentClass = nullptr;
+    CustomLineEdit *m_pSelector = nullptr;
+    CustomLineEdit *m_pSubSelectors = nullptr;
+    CustomLineEdit *m_pAttribute = nullptr;
+    CustomLineEdit *m_pOverride = nullptr;
     QButtonGroup *m_pStatuses;
     CustomPushButton *m_pSetOverride = nullptr;
     TextLabel *m_pValue = nullptr;

@@ -49,7 +49,7 @@ GalleryPage::GalleryPage(QWidget *parent) : QWidget(parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(Page_Margin, Card_Gap, Page_Margin, Page_Margin);
     layout->setSpacing(Card_Gap);
-    layout->setAlignment(Qt::AlignTop);
+    layout->addStretch(1); // below the cards
 }
 
 GalleryPage::~GalleryPage() = default;
@@ -63,7 +63,8 @@ Card *GalleryPage::addCard(const char *heading, const char *description)
         words->setWordWrap(true);
         card->add(words);
     }
-    layout()->addWidget(card);
+    auto *cards = static_cast<QVBoxLayout *>(layout());
+    cards->insertWidget(cards->count() - 1, card);
     return card;
 }
 

@@ -67,14 +67,15 @@ protected:
     /// A table with a heading for each status from the second column on, and one for the live controls where wanted.
     QGridLayout *statusTable(bool liveColumn);
 
+    /// Has \p write called with the translation of \p source. \p context is null for that of the page's class.
+    void addText(const char *source, std::function<void(const QString &)> write, const char *context = nullptr);
+
     void changeEvent(QEvent *event) override;
 
 private:
     static constexpr const char *CommonContext = "GalleryPage"; // of the texts that pages share
 
     static const char *statusSource(Custom::ItemStatus status);
-    /// \p context is null for that of the page's class.
-    void addText(const char *source, std::function<void(const QString &)> write, const char *context = nullptr);
 
     struct Text
     {

@@ -3,7 +3,13 @@
 #include "BoxesPage.h"
 #include "ButtonsPage.h"
 #include "ChecksPage.h"
+#include "DialogsPage.h"
 #include "EnginePage.h"
+#include "FieldsPage.h"
+#include "LabelsPage.h"
+#include "MenusPage.h"
+#include "ToolTipsPage.h"
+#include "WindowsPage.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -28,6 +34,24 @@ const QVector<PageEntry> &pageEntries()
             create<ButtonsPage> },
         { QStringLiteral("checks"), QT_TRANSLATE_NOOP("PageRegistry", "Checks and switches"),
             QT_TRANSLATE_NOOP("PageRegistry", "Check boxes, sliding switches and radio buttons."), create<ChecksPage> },
+        { QStringLiteral("labels"), QT_TRANSLATE_NOOP("PageRegistry", "Labels and lines"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Texts with a look of their own, separators and group boxes."),
+            create<LabelsPage> },
+        { QStringLiteral("fields"), QT_TRANSLATE_NOOP("PageRegistry", "Text fields"),
+            QT_TRANSLATE_NOOP(
+                "PageRegistry", "Line edits in three looks, fields that ask for a value, and texts of several lines."),
+            create<FieldsPage> },
+        { QStringLiteral("menus"), QT_TRANSLATE_NOOP("PageRegistry", "Menus"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Everything that can stand in a menu, and what pops it up."),
+            create<MenusPage> },
+        { QStringLiteral("windows"), QT_TRANSLATE_NOOP("PageRegistry", "Windows"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Frameless windows with title bar, buttons and edges to stretch."),
+            create<WindowsPage> },
+        { QStringLiteral("dialogs"), QT_TRANSLATE_NOOP("PageRegistry", "Dialogs"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Message boxes for every occasion, and file dialogs."),
+            create<DialogsPage> },
+        { QStringLiteral("tooltips"), QT_TRANSLATE_NOOP("PageRegistry", "Tool tips"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Tips with a marker, in one line or several."), create<ToolTipsPage> },
         { QStringLiteral("engine"), QT_TRANSLATE_NOOP("PageRegistry", "Style engine"),
             QT_TRANSLATE_NOOP("PageRegistry", "Ask for an attribute and see where its value comes from."),
             create<EnginePage> },

@@ -259,6 +259,153 @@
     </message>
 </context>
 <context>
+    <name>DialogsPage</name>
+    <message>
+        <source>Message boxes</source>
+        <translation>消息框</translation>
+    </message>
+    <message>
+        <source>A large text, a small one below, and an icon.</source>
+        <translation>大字标题、下方的小字说明和一个图标。</translation>
+    </message>
+    <message>
+        <source>Nothing special</source>
+        <translation>没有特别之处</translation>
+    </message>
+    <message>
+        <source>The copy is ready</source>
+        <translation>副本已就绪</translation>
+    </message>
+    <message>
+        <source>The disk is nearly full</source>
+        <translation>磁盘空间快满了</translation>
+    </message>
+    <message>
+        <source>The file can&apos;t be read</source>
+        <translation>无法读取文件</translation>
+    </message>
+    <message>
+        <source>Save the changes?</source>
+        <translation>保存更改？</translation>
+    </message>
+    <message>
+        <source>All files are saved</source>
+        <translation>所有文件都已保存</translation>
+    </message>
+    <message>
+        <source>A few more words</source>
+        <translation>再多几句说明</translation>
+    </message>
+    <message>
+        <source>Notices and questions</source>
+        <translation>通知与询问</translation>
+    </message>
+    <message>
+        <source>The calls return when the box is closed.</source>
+        <translation>消息框关闭后调用才返回。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Only a large text</source>
+        <translation>只有大字标题</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>简单</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>OK or Cancel</source>
+        <translation>确定或取消</translation>
+    </message>
+    <message>
+        <source>Go on?</source>
+        <translation>继续吗？</translation>
+    </message>
+    <message>
+        <source>Yes or No</source>
+        <translation>是或否</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Texts are shown as they stand; only links are made, if wanted.</source>
+        <translation>文本原样显示；只有需要时才把链接变为可点击。</translation>
+    </message>
+    <message>
+        <source>A long text</source>
+        <translation>长文本</translation>
+    </message>
+    <message>
+        <source>And so on. </source>
+        <translation>如此等等。</translation>
+    </message>
+    <message>
+        <source>This text is longer than the line that it stands in. </source>
+        <translation>这段文字比它所在的一行要长。</translation>
+    </message>
+    <message>
+        <source>The large size</source>
+        <translation>大尺寸</translation>
+    </message>
+    <message>
+        <source>Markup and percent signs</source>
+        <translation>标记与百分号</translation>
+    </message>
+    <message>
+        <source>A link</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>Read on at</source>
+        <translation>详情请见</translation>
+    </message>
+    <message>
+        <source>File dialogs</source>
+        <translation>文件对话框</translation>
+    </message>
+    <message>
+        <source>A folder that can&apos;t be written is refused with a warning.</source>
+        <translation>选择不可写的文件夹时会出现警告。</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Save a file</source>
+        <translation>保存文件</translation>
+    </message>
+    <message>
+        <source>Texts (*.txt)</source>
+        <translation>文本 (*.txt)</translation>
+    </message>
+    <message>
+        <source>No answer yet</source>
+        <translation>还没有回答</translation>
+    </message>
+    <message>
+        <source>Answer: %1</source>
+        <translation>回答：%1</translation>
+    </message>
+</context>
+<context>
     <name>EnginePage</name>
     <message>
         <source>From a selector</source>
@@ -394,6 +541,182 @@
     </message>
 </context>
 <context>
+    <name>FieldsPage</name>
+    <message>
+        <source>Looks</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Point at a field or go into it to see its other statuses.</source>
+        <translation>将指针移到输入框上或进入其中，可查看其他状态。</translation>
+    </message>
+    <message>
+        <source>With a text</source>
+        <translation>有文本</translation>
+    </message>
+    <message>
+        <source>Empty</source>
+        <translation>空</translation>
+    </message>
+    <message>
+        <source>With a button</source>
+        <translation>带按钮</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>禁用</translation>
+    </message>
+    <message>
+        <source>A text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Placeholder</source>
+        <translation>占位文本</translation>
+    </message>
+    <message>
+        <source>Clicks and keys</source>
+        <translation>点击与按键</translation>
+    </message>
+    <message>
+        <source>The first click into a field selects all of its text, if wanted.</source>
+        <translation>需要时，第一次点击输入框会选中全部文本。</translation>
+    </message>
+    <message>
+        <source>Click me</source>
+        <translation>点击我</translation>
+    </message>
+    <message>
+        <source>Only to be read</source>
+        <translation>只能读取</translation>
+    </message>
+    <message>
+        <source>Cats</source>
+        <translation>猫</translation>
+    </message>
+    <message>
+        <source>selects all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>selects nothing</source>
+        <translation>不选择</translation>
+    </message>
+    <message>
+        <source>read-only</source>
+        <translation>只读</translation>
+    </message>
+    <message>
+        <source>searches</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Choosing</source>
+        <translation>选取</translation>
+    </message>
+    <message>
+        <source>The button at the end asks for the value.</source>
+        <translation>末端的按钮用于询问值。</translation>
+    </message>
+    <message>
+        <source>No picture yet</source>
+        <translation>还没有图片</translation>
+    </message>
+    <message>
+        <source>A date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>a folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>a picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>what the program says</source>
+        <translation>由程序给出</translation>
+    </message>
+    <message>
+        <source>Texts of several lines</source>
+        <translation>多行文本</translation>
+    </message>
+    <message>
+        <source>Write here what takes more than one line. The scroll bar at the side is the theme&apos;s, and it comes when the text is longer than the field.
+The colours follow the skin.</source>
+        <translation>在这里写下需要多行的内容。一侧的滚动条来自主题，当文本超出输入框时出现。文字可以一直写下去，换行之后接着写，直到写完为止。
+颜色随皮肤变化。</translation>
+    </message>
+    <message>
+        <source>Nothing was searched for</source>
+        <translation>还没有搜索</translation>
+    </message>
+    <message>
+        <source>Searched for: %1</source>
+        <translation>已搜索：%1</translation>
+    </message>
+</context>
+<context>
+    <name>GalleryMenus</name>
+    <message>
+        <source>New window</source>
+        <translation>新建窗口</translation>
+    </message>
+    <message>
+        <source>Save a picture</source>
+        <translation>保存图片</translation>
+    </message>
+    <message>
+        <source>Next skin</source>
+        <translation>下一个皮肤</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Save a picture...</source>
+        <translation>保存图片...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>视图</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Skin</source>
+        <translation>皮肤</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Next language</source>
+        <translation>下一种语言</translation>
+    </message>
+    <message>
+        <source>Enable or disable the page</source>
+        <translation>启用或禁用页面</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>About Zanthic</source>
+        <translation>关于 Zanthic</translation>
+    </message>
+</context>
+<context>
     <name>GalleryPage</name>
     <message>
         <source>Hover</source>
@@ -454,6 +777,220 @@ Ctrl+E 启用或禁用</translation>
         <source>Zanthic gallery</source>
         <translation>Zanthic 控件展示</translation>
     </message>
+    <message>
+        <source>Save a picture of the page</source>
+        <translation>保存页面图片</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>图片 (*.png)</translation>
+    </message>
+    <message>
+        <source>Zanthic: themed desktop widgets for Qt 5</source>
+        <translation>Zanthic：Qt 5 的主题化桌面控件</translation>
+    </message>
+    <message>
+        <source>Saving failed</source>
+        <translation>保存失败</translation>
+    </message>
+</context>
+<context>
+    <name>LabelsPage</name>
+    <message>
+        <source>Looks</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>A label has a look of its own while the pointer is over it.</source>
+        <translation>指针停留时，标签有自己的外观。</translation>
+    </message>
+    <message>
+        <source>Plain text</source>
+        <translation>普通文本</translation>
+    </message>
+    <message>
+        <source>Quiet text</source>
+        <translation>次要文本</translation>
+    </message>
+    <message>
+        <source>Strong text</source>
+        <translation>强调文本</translation>
+    </message>
+    <message>
+        <source>With a border</source>
+        <translation>带边框</translation>
+    </message>
+    <message>
+        <source>Point at me</source>
+        <translation>指向我</translation>
+    </message>
+    <message>
+        <source>values of its own</source>
+        <translation>自己的取值</translation>
+    </message>
+    <message>
+        <source>two looks</source>
+        <translation>两种外观</translation>
+    </message>
+    <message>
+        <source>Elided texts and clicks</source>
+        <translation>省略与点击</translation>
+    </message>
+    <message>
+        <source>A text that is too long ends in dots. A label tells of clicks, as a button does.</source>
+        <translation>过长的文本以省略号结尾。标签与按钮一样会报告点击。</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>线条</translation>
+    </message>
+    <message>
+        <source>A line is as thick as its widget, solid or dotted.</source>
+        <translation>线条与其控件一样粗，可为实线或虚线。</translation>
+    </message>
+    <message>
+        <source>Group boxes</source>
+        <translation>分组框</translation>
+    </message>
+    <message>
+        <source>A box that can be switched off takes its content along, and tells its number.</source>
+        <translation>可关闭的分组框会连同其内容一起禁用，并报告自己的编号。</translation>
+    </message>
+    <message>
+        <source>To be switched</source>
+        <translation>可以开关</translation>
+    </message>
+    <message>
+        <source>Always on</source>
+        <translation>始终开启</translation>
+    </message>
+    <message>
+        <source>First option</source>
+        <translation>第一项</translation>
+    </message>
+    <message>
+        <source>Second option</source>
+        <translation>第二项</translation>
+    </message>
+    <message>
+        <source>The quick brown fox jumps over the lazy dog and goes on its way</source>
+        <translation>敏捷的棕色狐狸跳过了那只懒狗，然后继续沿着小路向前走去</translation>
+    </message>
+    <message>
+        <source>Clicks: %1</source>
+        <translation>点击：%1</translation>
+    </message>
+    <message>
+        <source>Box %1 was switched on</source>
+        <translation>分组框 %1 已打开</translation>
+    </message>
+    <message>
+        <source>Box %1 was switched off</source>
+        <translation>分组框 %1 已关闭</translation>
+    </message>
+</context>
+<context>
+    <name>MenusPage</name>
+    <message>
+        <source>A menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Icons, shortcuts, lines, checked and disabled items; the mark and the arrow stand at the end.</source>
+        <translation>图标、快捷键、分隔线、选中项与禁用项；标记和箭头位于末端。</translation>
+    </message>
+    <message>
+        <source>Any widget</source>
+        <translation>任意控件</translation>
+    </message>
+    <message>
+        <source>Button</source>
+        <translation>按钮</translation>
+    </message>
+    <message>
+        <source>a menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>its submenu</source>
+        <translation>其子菜单</translation>
+    </message>
+    <message>
+        <source>a widget in a menu</source>
+        <translation>菜单中的控件</translation>
+    </message>
+    <message>
+        <source>Live, to try</source>
+        <translation>实际试用</translation>
+    </message>
+    <message>
+        <source>By a button, or by a right click into the field.</source>
+        <translation>通过按钮，或在方框内单击右键。</translation>
+    </message>
+    <message>
+        <source>Open a menu</source>
+        <translation>打开菜单</translation>
+    </message>
+    <message>
+        <source>Right click here</source>
+        <translation>在此单击右键</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>新建</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>下载</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Show hidden files</source>
+        <translation>显示隐藏文件</translation>
+    </message>
+    <message>
+        <source>Show previews</source>
+        <translation>显示预览</translation>
+    </message>
+    <message>
+        <source>Checked for good</source>
+        <translation>始终选中</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>排序方式</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Something else...</source>
+        <translation>其他...</translation>
+    </message>
+    <message>
+        <source>A widget</source>
+        <translation>一个控件</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>现在不行</translation>
+    </message>
+    <message>
+        <source>Nothing was chosen</source>
+        <translation>还没有选择</translation>
+    </message>
+    <message>
+        <source>Chosen: %1</source>
+        <translation>已选择：%1</translation>
+    </message>
 </context>
 <context>
     <name>PageRegistry</name>
@@ -488,6 +1025,280 @@ Ctrl+E 启用或禁用</translation>
     <message>
         <source>Ask for an attribute and see where its value comes from.</source>
         <translation>查询一个属性，查看其值的来源。</translation>
+    </message>
+    <message>
+        <source>Labels and lines</source>
+        <translation>标签与线条</translation>
+    </message>
+    <message>
+        <source>Texts with a look of their own, separators and group boxes.</source>
+        <translation>自带外观的文本、分隔线与分组框。</translation>
+    </message>
+    <message>
+        <source>Text fields</source>
+        <translation>输入框</translation>
+    </message>
+    <message>
+        <source>Line edits in three looks, fields that ask for a value, and texts of several lines.</source>
+        <translation>三种外观的单行输入框、询问取值的输入框以及多行文本。</translation>
+    </message>
+    <message>
+        <source>Menus</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>Everything that can stand in a menu, and what pops it up.</source>
+        <translation>菜单中可以出现的一切，以及弹出菜单的方式。</translation>
+    </message>
+    <message>
+        <source>Windows</source>
+        <translation>窗口</translation>
+    </message>
+    <message>
+        <source>Frameless windows with title bar, buttons and edges to stretch.</source>
+        <translation>无边框窗口，带标题栏、按钮和可拉伸的边缘。</translation>
+    </message>
+    <message>
+        <source>Dialogs</source>
+        <translation>对话框</translation>
+    </message>
+    <message>
+        <source>Message boxes for every occasion, and file dialogs.</source>
+        <translation>适合各种场合的消息框，以及文件对话框。</translation>
+    </message>
+    <message>
+        <source>Tool tips</source>
+        <translation>工具提示</translation>
+    </message>
+    <message>
+        <source>Tips with a marker, in one line or several.</source>
+        <translation>带标记的提示，单行或多行。</translation>
+    </message>
+</context>
+<context>
+    <name>ToolTipsPage</name>
+    <message>
+        <source>A short tip</source>
+        <translation>简短的提示</translation>
+    </message>
+    <message>
+        <source>one line</source>
+        <translation>一行</translation>
+    </message>
+    <message>
+        <source>several lines</source>
+        <translation>多行</translation>
+    </message>
+    <message>
+        <source>further apart</source>
+        <translation>行距更大</translation>
+    </message>
+    <message>
+        <source>The marker is at the left</source>
+        <translation>标记位于左侧</translation>
+    </message>
+    <message>
+        <source>marker at 10 %</source>
+        <translation>标记在 10 %</translation>
+    </message>
+    <message>
+        <source>The marker is in the middle</source>
+        <translation>标记位于中间</translation>
+    </message>
+    <message>
+        <source>marker at 50 %</source>
+        <translation>标记在 50 %</translation>
+    </message>
+    <message>
+        <source>Gone in a second</source>
+        <translation>一秒后消失</translation>
+    </message>
+    <message>
+        <source>one second</source>
+        <translation>一秒</translation>
+    </message>
+    <message>
+        <source>Looks</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>How far the lines of a tip are apart is up to the program.</source>
+        <translation>提示的行距由程序决定。</translation>
+    </message>
+    <message>
+        <source>Live, to try</source>
+        <translation>实际试用</translation>
+    </message>
+    <message>
+        <source>The tip belongs to the button, and goes when the pointer leaves it.</source>
+        <translation>提示属于按钮，指针离开后消失。</translation>
+    </message>
+    <message>
+        <source>Several lines
+stand below
+each other</source>
+        <translation>多行文字
+依次
+排列在下方</translation>
+    </message>
+</context>
+<context>
+    <name>WindowsPage</name>
+    <message>
+        <source>A window</source>
+        <translation>窗口</translation>
+    </message>
+    <message>
+        <source>Title bar, content and buttons all come from the theme.</source>
+        <translation>标题栏、内容和按钮都来自主题。</translation>
+    </message>
+    <message>
+        <source>A dialog</source>
+        <translation>对话框</translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Three choices</source>
+        <translation>三个选择</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>稍后</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>从不</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>现在</translation>
+    </message>
+    <message>
+        <source>With tools</source>
+        <translation>带工具</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>菜单</translation>
+    </message>
+    <message>
+        <source>An item</source>
+        <translation>一项</translation>
+    </message>
+    <message>
+        <source>Bars and contents</source>
+        <translation>按钮栏与内容</translation>
+    </message>
+    <message>
+        <source>Each button opens a window.</source>
+        <translation>每个按钮都会打开一个窗口。</translation>
+    </message>
+    <message>
+        <source>Buttons at the left</source>
+        <translation>按钮居左</translation>
+    </message>
+    <message>
+        <source>in the middle</source>
+        <translation>居中</translation>
+    </message>
+    <message>
+        <source>at the right</source>
+        <translation>居右</translation>
+    </message>
+    <message>
+        <source>Buttons of its own</source>
+        <translation>自定义按钮</translation>
+    </message>
+    <message>
+        <source>Scrolled content</source>
+        <translation>滚动内容</translation>
+    </message>
+    <message>
+        <source>Scrolled</source>
+        <translation>滚动</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>Among other windows</source>
+        <translation>与其他窗口的关系</translation>
+    </message>
+    <message>
+        <source>A popup closes with a click outside. A bottom window goes behind a top one that it covers.</source>
+        <translation>在弹出窗口之外点击会将其关闭。底层窗口遮住顶层窗口时会退到其后。</translation>
+    </message>
+    <message>
+        <source>Popup</source>
+        <translation>弹出窗口</translation>
+    </message>
+    <message>
+        <source>Click outside</source>
+        <translation>请在外面点击</translation>
+    </message>
+    <message>
+        <source>Menus, tools, stay on top</source>
+        <translation>菜单、工具、置顶</translation>
+    </message>
+    <message>
+        <source>The pin keeps it on top</source>
+        <translation>图钉使其保持置顶</translation>
+    </message>
+    <message>
+        <source>Another</source>
+        <translation>另一项</translation>
+    </message>
+    <message>
+        <source>Move the two onto each other</source>
+        <translation>把两个窗口移到一起</translation>
+    </message>
+    <message>
+        <source>A top and a bottom window</source>
+        <translation>顶层与底层窗口</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶层</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底层</translation>
+    </message>
+    <message>
+        <source>Maximised</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>A double click on the title restores it</source>
+        <translation>双击标题即可还原</translation>
+    </message>
+    <message>
+        <source>Stretching</source>
+        <translation>拉伸</translation>
+    </message>
+    <message>
+        <source>The edges and corners at which the window is stretched.</source>
+        <translation>可以拉伸窗口的边与角。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Stretch me</source>
+        <translation>拉伸我</translation>
+    </message>
+    <message>
+        <source>No button was clicked yet</source>
+        <translation>还没有点击按钮</translation>
+    </message>
+    <message>
+        <source>Button %1 was clicked</source>
+        <translation>已点击按钮 %1</translation>
     </message>
 </context>
 </TS>

@@ -126,6 +126,9 @@ void CustomLineEdit::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         cLanguageChange();
     QLineEdit::changeEvent(event);
+    // The sheet has been polished anew.
+    if (event->type() == QEvent::LanguageChange)
+        dimPlaceholder(this);
 }
 
 void CustomLineEdit::focusInEvent(QFocusEvent *event)

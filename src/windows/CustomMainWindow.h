@@ -59,8 +59,8 @@ public:
     /// \{
     CustomTitleBar *cTitleBar() const; ///< owned by the window
     void cSetTitleVisible(bool visible);
-    /// Takes over \p widget as the content; null is ignored. A widget that was set before is hidden and stays a child
-    /// of the window. With a scroll bar the widget before is deleted.
+    /// Takes over \p widget as the content; null is ignored, and so is the window itself. A widget that was set before
+    /// is hidden and stays a child of the window. With a scroll bar the widget before is deleted.
     void cSetCentralWidget(QWidget *widget);
     /// Puts the central widget into a scroll area of the fixed \p size in px. To be called before
     /// cSetCentralWidget().

@@ -245,7 +245,7 @@ void CustomMainWindowPrivate::retranslate()
 
 void CustomMainWindowPrivate::resetCentralWidget(QWidget *widget)
 {
-    if (!widget)
+    if (!widget || widget == m_pContentWidget || widget->isAncestorOf(m_pContentWidget))
         return;
     if (m_bEnableScrollBar) {
         // A scroll area makes its content paint Qt's own background, which belongs to no skin.

@@ -20,9 +20,15 @@ bool CustomMainWindowPrivate::isOverIgnored(const QPoint &globalPos) const
     });
 }
 
+bool CustomMainWindowPrivate::canStretch() const
+{
+    // A window that filled the screen already has not been resized, and doesn't know.
+    return m_bCanStrech && !m_pTitleBar->cIsMaximized();
+}
+
 void CustomMainWindowPrivate::judgeCursorPos(const QPoint &globalPos)
 {
-    if (g_StretchHelper.pressed || !m_bCanStrech)
+    if (g_StretchHelper.pressed || !canStretch())
         return;
     const QRect frame(q->mapToGlobal(QPoint(0, 0)), m_pFrame->size());
     const int oldZone = g_StretchHelper.zone;
@@ -62,7 +68,7 @@ void CustomMainWindowPrivate::mousePressed(const QPoint &globalPos)
     judgeCursorPos(globalPos);
     const bool running = helper.pressed && helper.window == q;
     // A maximised window is not judged, so that the zone may be one of another window.
-    helper.pressed = m_bCanStrech && helper.zone != 0;
+    helper.pressed = canStretch() && helper.zone != 0;
     if (!helper.pressed)
         return;
     helper.startX = globalPos.x();

@@ -129,6 +129,7 @@ private:
     Border border() const;
     QString text(const char *key) const;
     int number(const char *key) const;
+    bool canStretch() const;
     bool isOverIgnored(const QPoint &globalPos) const;
     static void showCursor(int oldZone, const QCursor &cursor);
 };

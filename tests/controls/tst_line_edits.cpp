@@ -1,3 +1,4 @@
+#include "style/CustomPrivate_p.h"
 #include "support/StyleTest.h"
 #include "windows/DialogDriver.h"
 
@@ -167,6 +168,9 @@ void LineEditsTest::placeholderDiffersFromText()
         QCOMPARE(colors.color(QPalette::Active, QPalette::PlaceholderText).name(QColor::HexArgb), "#a6ff0000");
         QCOMPARE(colors.color(QPalette::Disabled, QPalette::PlaceholderText).name(QColor::HexArgb), "#a60000ff");
         Custom::changeSkin();
+        CustomPrivate::setIsFontFamilyChange(true);
+        QEvent language(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(window.edit, &language);
     }
 }
 

@@ -5,9 +5,13 @@
 #include "GalleryWindow.h"
 #include "pages/EnginePage.h"
 #include "pages/PageRegistry.h"
-#include "parts/Field.h"
+
+#include <Zanthic/CustomLineEdit.h>
+#include <Zanthic/CustomPushButton.h>
 
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QScrollArea>
@@ -39,7 +43,7 @@ QStringList faults(const QWidget *window)
     for (const QWidget *widget : window->findChildren<QWidget *>()) {
         const auto *label = qobject_cast<const QLabel *>(widget);
         const bool sized = label || qobject_cast<const QAbstractButton *>(widget);
-        if (widget->isHidden() || !(sized || qobject_cast<const QLineEdit *>(widget)))
+        if (widget->window() != window || widget->isHidden() || !(sized || qobject_cast<const QLineEdit *>(widget)))
             continue;
         const bool wraps = label && label->wordWrap();
         const QSize needed = wraps ? QSize(0, label->heightForWidth(label->width())) : widget->sizeHint();
@@ -77,8 +81,8 @@ private Q_SLOTS:
                 gallery.window->openPage(change > 3 ? page : "no such page"_s);
                 const QImage picture = gallery.window->picture().toImage();
                 QCOMPARE(gallery.window->pageName(), page);
-                QCOMPARE(faults(gallery.window.get()), QStringList());
-                const auto *area = gallery.window->findChild<QScrollArea *>();
+                QCOMPARE(faults(gallery.window.get()).join('\n'), QString());
+                const auto *area = gallery.window->findChild<QScrollArea *>("page"_s);
                 QVERIFY2(area->widget()->minimumSizeHint().width() <= area->viewport()->width(), qPrintable(page));
                 // There and back gives the same picture to the pixel.
                 const QString name = gallery.appearance.skin() + gallery.appearance.language();
@@ -102,12 +106,52 @@ private Q_SLOTS:
             return gallery.appearance.skin() + ' ' + gallery.appearance.language()
                 + (gallery.engine->isEnabled() ? "" : " off");
         };
-        auto *field = gallery.window->findChild<Field *>();
+        auto *field = gallery.window->findChild<CustomLineEdit *>();
         field->setFocus();
         for (const auto &[key, state] : { std::pair(Qt::Key_T, "dark en_US"_s), std::pair(Qt::Key_L, "light zh_CN"_s),
                  std::pair(Qt::Key_E, "light en_US off"_s) }) {
             QCOMPARE(press(field, key), state);
             QCOMPARE(press(gallery.window.get(), key), "light en_US"_s);
+        }
+    }
+
+    void menusChooseForTheWholeProgram()
+    {
+        Gallery gallery("boxes"_s);
+        const auto item = [&gallery](const QString &name) { return gallery.window->findChild<QAction *>(name); };
+        for (const auto &name : { "dark"_s, "zh_CN"_s, "menus"_s })
+            item(name)->trigger();
+        QCOMPARE(
+            gallery.appearance.skin() + gallery.appearance.language() + gallery.window->pageName(), "darkzh_CNmenus"_s);
+        gallery.appearance.nextSkin();
+        QVERIFY(item("light"_s)->isChecked() && !item("dark"_s)->isChecked() && item("menus"_s)->isChecked());
+        // The library's own texts come along.
+        QCOMPARE(CustomMainWindow::tr("OK"), QString::fromUtf16(u"\u786e\u5b9a"));
+        item("en_US"_s)->trigger();
+        QCOMPARE(CustomMainWindow::tr("OK"), "OK"_s);
+    }
+
+    void everySampleOpensAndCloses()
+    {
+        for (const auto &page : { "menus"_s, "windows"_s, "dialogs"_s }) {
+            Gallery gallery(page);
+            gallery.window->show();
+            int opened = 0;
+            QTimer closer;
+            connect(&closer, &QTimer::timeout, [&] {
+                for (QWidget *widget : QApplication::topLevelWidgets()) {
+                    if (widget != gallery.window.get() && widget->isVisible())
+                        opened += int(widget->close());
+                }
+            });
+            closer.start(10);
+            for (auto *button : gallery.window->page()->findChildren<CustomPushButton *>()) {
+                if (button->window() != gallery.window.get())
+                    continue; // one that stands in a menu
+                const int before = opened;
+                button->click();
+                QTRY_VERIFY2(opened > before, qPrintable(button->text()));
+            }
         }
     }
 
