@@ -18,9 +18,8 @@ void showPicture(CustomLabel *label, const QString &path)
         label->setPixmap(pixmap);
 }
 
-void setInfo(CustomLabel *label, Custom::ItemStatus status)
+void setColors(CustomLabel *label, Custom::ItemStatus status)
 {
-    label->setFont(label->cFont(status, {}));
     QPalette palette = label->palette();
     bool found = false;
     const QBrush background = label->cBackgroundColor(status, QRect(0, 0, label->width(), label->height()), {}, &found);
@@ -30,6 +29,12 @@ void setInfo(CustomLabel *label, Custom::ItemStatus status)
     if (found)
         palette.setBrush(label->foregroundRole(), QBrush(color));
     label->setPalette(palette);
+}
+
+void setInfo(CustomLabel *label, Custom::ItemStatus status)
+{
+    label->setFont(label->cFont(status, {}));
+    setColors(label, status);
     showPicture(label, label->cBackgroundImage(status, {}));
 }
 
@@ -79,10 +84,12 @@ void CustomLabel::cNotifyUpdateValue(const QString &key, const QString &value, C
 
 bool CustomLabel::event(QEvent *event)
 {
-    // Before the first show, where the theme would show only once the pointer has been there, and after Qt's style
-    // sheets have put the palette back that they had found.
-    if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
+    // Without this, a label would look as the theme says only once the pointer has been there.
+    if (event->type() == QEvent::Polish)
         setInfo(this, Custom::Normal);
+    // Qt's style sheets have put the palette back that they had found. The font may be theirs just now.
+    if (event->type() == QEvent::StyleChange)
+        setColors(this, Custom::Normal);
     return QLabel::event(event);
 }
 

@@ -8,6 +8,7 @@
 #include <QtCore/QPointer>
 #include <QtGui/QHelpEvent>
 #include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QToolTip>
 
 namespace {
 
@@ -89,13 +90,16 @@ CustomLineEdit::~CustomLineEdit() = default;
 
 void CustomLineEdit::cSetEnableSearchButton(bool enable)
 {
+    if (!d)
+        return;
     d->enableSearch = enable;
     d->updateStyleSheet();
 }
 
 void CustomLineEdit::cSetEnableIntoSelected(bool enable)
 {
-    d->enableIntoSelected = enable;
+    if (d)
+        d->enableIntoSelected = enable;
 }
 
 CustomPushButton *CustomLineEdit::getSearchButton() const
@@ -161,8 +165,11 @@ bool CustomLineEdit::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && d && d->enableSearch) {
         const CustomPushButton *button = getSearchButton();
-        if (button && button->geometry().contains(static_cast<QHelpEvent *>(event)->pos()))
+        const auto *help = dynamic_cast<QHelpEvent *>(event);
+        if (button && help && button->geometry().contains(help->pos())) {
+            QToolTip::hideText(); // one that the text has brought up
             return true;
+        }
     }
     const bool handled = QLineEdit::event(event);
     // The style sheet has given the placeholder the colour of a text that was entered.

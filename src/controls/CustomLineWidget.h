@@ -18,8 +18,8 @@ public:
     explicit CustomLineWidget(QWidget *parent = nullptr);
     ~CustomLineWidget() override;
 
-    /// Dashes that are three times as long as the line is thick, with gaps of twice its thickness. A line that is
-    /// thicker than long has room for none and stays solid.
+    /// Dashes that are three times as long as the line is thick, with gaps of twice its thickness; the square ends of
+    /// the dashes take half of the gaps. A line that is thicker than long has room for none and stays solid.
     void cSetIsDottedLine(bool dotted);
     void cSetLineType(LineType type);
 

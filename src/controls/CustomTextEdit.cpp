@@ -33,6 +33,15 @@ int fontSize(const CustomTextEdit &edit)
     return size > 0 ? size : qMax(1, QFontInfo(edit.font()).pixelSize());
 }
 
+// The edit's own font is that of the last sheet, and knows of no other language.
+QString fontFamily(const CustomTextEdit &edit)
+{
+    bool found = false;
+    const QString family = edit.cFontFamily(Custom::Normal, {}, &found);
+    const QString global = Custom::globalFontFamily();
+    return found || global.isEmpty() ? family : global;
+}
+
 void resetStyleSheet(CustomTextEdit *edit)
 {
     const auto status = Custom::Normal;
@@ -45,7 +54,7 @@ void resetStyleSheet(CustomTextEdit *edit)
                          "border: %5px solid %6;}")
               .arg(Custom::color2String(edit->cFontColor(status)),
                   Custom::color2String(edit->cBackgroundColor(status).color()), QString::number(fontSize(*edit)),
-                  familyText(edit->cFontFamily(status)), QString::number(edit->cBorderWidth(Custom::AllEdge, status)),
+                  familyText(fontFamily(*edit)), QString::number(edit->cBorderWidth(Custom::AllEdge, status)),
                   Custom::brush2String(edit->cBorderColor(Custom::AllEdge, status)));
     edit->setStyleSheet(sheet + Custom::styleSheet(Custom::SheetScrollBar));
 }

@@ -21,6 +21,8 @@ void prepare(QFileDialog *dialog, const Request &request)
     // First of all, since they decide on whose dialog it is.
     dialog->setOptions(request.options);
     dialog->setFileMode(request.mode);
+    // Taken away by the mode.
+    dialog->setOption(QFileDialog::ShowDirsOnly, request.options.testFlag(QFileDialog::ShowDirsOnly));
     dialog->setAcceptMode(request.acceptMode);
     if (!request.filter.isEmpty())
         dialog->setNameFilter(request.filter);

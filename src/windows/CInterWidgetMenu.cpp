@@ -2,10 +2,12 @@
 
 #include <QtWidgets/QHBoxLayout>
 
-CInterWidgetMenu::CInterWidgetMenu(QWidget *widget, QWidget *parent) : CustomMenu(parent), m_pWidget(widget)
+CInterWidgetMenu::CInterWidgetMenu(QWidget *widget, QWidget *parent) : CustomMenu(parent)
 {
-    if (!widget)
+    // A widget that the menu stands in can't stand in the menu.
+    if (!widget || (parent && (widget == parent || widget->isAncestorOf(parent))))
         return;
+    m_pWidget = widget;
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

@@ -1,9 +1,11 @@
 #include <Zanthic/CustomToolTip.h>
 
 #include "render/PainterTools_p.h"
+#include "style/CustomStyleSheetData_p.h"
 #include "windows/CustomToolTip_p.h"
 #include "windows/ToolTipLayout_p.h"
 
+#include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/Custom.h>
 
 #include <QtGui/QBitmap>
@@ -54,6 +56,9 @@ QRect tipScreenGeometry(const QPoint &pos, const QWidget *widget)
 TipLabel *TipLabel::instance = nullptr;
 int TipLabel::s_nSharpCornerPosition = 80;
 int TipLabel::s_nLineDistance = 3;
+const QSize TipLabel::s_extraSize(5, 5);
+const int TipLabel::s_nSharpCornerWidth = 0;
+const int TipLabel::s_nSharpCornerHeight = 0;
 
 QFont &TipLabel::tipFont()
 {
@@ -63,9 +68,12 @@ QFont &TipLabel::tipFont()
 
 TipLabel::TipLabel(const QString &text, QWidget *w, int msecDisplayTime) : QLabel(w, Qt::ToolTip)
 {
+    // A tip may be the first to use the style system, and asks for colours and a family only.
+    Custom::initXmlInfo(QLatin1String(Custom::c_szBaseXmlPath));
     tipFont().setFamily(Custom::globalFontFamily());
     takePlaceOf(instance);
     instance = this;
+    const BusyGuard guard(this);
     // What is painted is the text itself, and so is what is measured.
     setTextFormat(Qt::PlainText);
     ensurePolished();
@@ -214,6 +222,12 @@ void TipLabel::resizeEvent(QResizeEvent *event)
     QLabel::resizeEvent(event);
 }
 
+void TipLabel::customEvent(QEvent *event)
+{
+    if (int(event->type()) == ChangeSkinEvent::EventType)
+        update();
+}
+
 void TipLabel::doSetMask()
 {
     QBitmap mask(size());
@@ -235,8 +249,8 @@ void TipLabel::paintEvent(QPaintEvent *event)
     if (!isUsable(&painter))
         return;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(
-        QRect(0, 0, width() - 1, height() - 1), Custom::getDataBaseColor(QStringLiteral("Custom_ToolTip_Background")));
+    painter.fillRect(QRect(QPoint(0, 0), QPoint(width() - 1, height() - 1)),
+        Custom::getDataBaseColor(QStringLiteral("Custom_ToolTip_Background")));
     painter.setPen(QPen(Custom::getDataBaseColor(QStringLiteral("Custom_ToolTip_Border")).color(), 1));
     painter.drawPath(creatPath());
     painter.drawLines(ToolTipLayout::borderLines(size(), s_nSharpCornerPosition));

@@ -31,6 +31,9 @@ public:
     static TipLabel *instance;
     static int s_nSharpCornerPosition; ///< of the marker, percent of the width
     static int s_nLineDistance;
+    static const QSize s_extraSize; ///< unused
+    static const int s_nSharpCornerWidth; ///< the marker has no size: its three points fall together
+    static const int s_nSharpCornerHeight;
 
     QBasicTimer hideTimer;
     QBasicTimer expireTimer;
@@ -44,6 +47,7 @@ protected:
     void timerEvent(QTimerEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void customEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

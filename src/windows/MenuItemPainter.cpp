@@ -81,12 +81,16 @@ void drawBackground(QPainter *painter, const Item &item)
     painter->drawLine(item.layout.underline);
 }
 
-// Shades of the item's background. Those of Qt's palette belong to no skin.
+// Shades of what is behind the icon. Those of Qt's palette belong to no skin.
 QPalette panelPalette(const Item &item)
 {
-    bool found = false;
-    const QBrush brush = item.menu.cBackgroundColor(item.boxStatus, item.layout.backgroundRect, itemSubs(), &found);
-    return found && brush.style() == Qt::SolidPattern ? QPalette(brush.color()) : item.option.palette;
+    const QRect &rect = item.layout.backgroundRect;
+    for (const QBrush &brush : { item.menu.cBackgroundColor(item.boxStatus, rect, itemSubs()),
+             item.menu.cBackgroundColor(Custom::Normal, rect, {}) }) {
+        if (brush.style() == Qt::SolidPattern && brush.color().alpha() == 255)
+            return QPalette(brush.color());
+    }
+    return item.option.palette;
 }
 
 void drawCheckedPanel(QPainter *painter, const Item &item)
