@@ -24,7 +24,8 @@ public:
     ~CustomPushButton() override;
 
     void cSetButtonStyleSelector(StyleSelector selector);
-    /// Mouse events also go on to the parent; the button still reacts to them.
+    /// Presses and moves also go on to the parent, and releases with cSetControlClickEvent(); the button still reacts
+    /// to them.
     void cSetIgnoreMouseEvent(bool ignore);
     /// The button ignores presses and releases for 100 ms after a click. Off at start.
     void cSetControlClickEvent(bool enable);

@@ -31,6 +31,14 @@ QFont itemFont(const CustomMenu &menu)
     return font;
 }
 
+// Only a font that differs: the menu is laid out anew with each, before anything is painted.
+void takeItemFont(CustomMenu *menu)
+{
+    const QFont items = itemFont(*menu);
+    if (items.resolve(menu->font()) != menu->font())
+        menu->setFont(items);
+}
+
 } // namespace
 
 CustomMenu::CustomMenu(QWidget *parent) : CustomMenu(QString(), parent) { }
@@ -76,6 +84,9 @@ void CustomMenu::drawActionItem(QStyleOptionMenuItem *option, QPainter *painter)
 
 QSize CustomMenu::sizeHint() const
 {
+    // What is measured before the first paint is measured in the font of the paints.
+    if (styleSheet().isEmpty())
+        takeItemFont(const_cast<CustomMenu *>(this));
     return QMenu::sizeHint();
 }
 
@@ -85,10 +96,7 @@ void CustomMenu::paintEvent(QPaintEvent *event)
         QMenu::paintEvent(event);
         return;
     }
-    // Only a font that differs: the menu is laid out anew with each, before anything is painted.
-    const QFont items = itemFont(*this);
-    if (items.resolve(font()) != font())
-        setFont(items);
+    takeItemFont(this);
 
     QPainter painter(this);
     cDrawBackground(&painter, rect(), Custom::Normal, {});

@@ -34,7 +34,11 @@ public:
     static void press(const QPoint &at) { tool(to(at) + QLatin1String("mousedown 1")); }
     static void release() { tool(QStringLiteral("mouseup 1")); }
     static void click(const QPoint &at) { tool(to(at) + QLatin1String("click 1")); }
-    static void doubleClick(const QPoint &at) { tool(to(at) + QLatin1String("click --repeat 2 --delay 20 1")); }
+    static void doubleClick(const QPoint &at)
+    {
+        QApplication::setDoubleClickInterval(5000); // also on a busy machine
+        tool(to(at) + QLatin1String("click --repeat 2 --delay 20 1"));
+    }
     static void keys(const char *names) { tool(QLatin1String("key ") + QLatin1String(names)); }
     static void drag(const QPoint &from, const QPoint &way)
     {
@@ -97,13 +101,15 @@ public:
     {
         setGeometry(place);
     }
+    static constexpr int kPatienceMs = 15000; // with the window manager of a busy machine
+
     /// Shows it; true when it is where it was put and has the keys.
     bool settles()
     {
         const QRect place = geometry();
         show();
-        return QTest::qWaitForWindowActive(this)
-            && QTest::qWaitFor([&] { return DesktopTest::placeOf(*this) == place; });
+        return QTest::qWaitForWindowActive(this, kPatienceMs)
+            && QTest::qWaitFor([&] { return DesktopTest::placeOf(*this) == place; }, kPatienceMs);
     }
     QPoint at(int x, int y) const { return mapToGlobal(QPoint(x, y)); }
 

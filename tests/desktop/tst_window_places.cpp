@@ -76,9 +76,9 @@ void WindowPlacesTest::minimisingAndHidingKeepThePlace()
     QTRY_COMPARE(placeOf(window), kStart);
     for (int round = 0; round < 5; ++round) {
         window.hide();
-        QVERIFY(window.settles());
+        window.show(); // the keys may be with nobody for a while
+        QTRY_COMPARE(placeOf(window), kStart);
     }
-    QCOMPARE(placeOf(window), kStart);
 }
 
 void WindowPlacesTest::stretch()
