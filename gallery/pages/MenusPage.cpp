@@ -74,7 +74,8 @@ void MenusPage::addPictures()
     auto *submenu = new Snapshot([this] {
         CustomMenu menu;
         fill(&menu);
-        for (QAction *action : menu.actions()) {
+        const QList<QAction *> actions = menu.actions();
+        for (QAction *action : actions) {
             if (auto *sub = qobject_cast<CustomMenu *>(action->menu()))
                 return pictureOf(sub, sub->actions().constLast());
         }

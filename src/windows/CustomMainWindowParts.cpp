@@ -224,13 +224,13 @@ void CustomMainWindowPrivate::resetButtonNames(const QStringList &names)
     }
 }
 
-QVector<QPair<CustomMainWindow::Button, CustomPushButton *>> CustomMainWindowPrivate::standardButtons() const
+std::vector<std::pair<CustomMainWindow::Button, CustomPushButton *>> CustomMainWindowPrivate::standardButtons() const
 {
-    QVector<QPair<CustomMainWindow::Button, CustomPushButton *>> buttons;
+    std::vector<std::pair<CustomMainWindow::Button, CustomPushButton *>> buttons;
     if (m_pOkButton)
-        buttons.append({ CustomMainWindow::ButtonOk, m_pOkButton });
+        buttons.push_back({ CustomMainWindow::ButtonOk, m_pOkButton });
     if (m_pCancelButton)
-        buttons.append({ CustomMainWindow::ButtonCancel, m_pCancelButton });
+        buttons.push_back({ CustomMainWindow::ButtonCancel, m_pCancelButton });
     return buttons;
 }
 

@@ -10,6 +10,8 @@
 #include <QtCore/QSet>
 
 #include <array>
+#include <utility>
+#include <vector>
 
 QT_BEGIN_NAMESPACE
 class QEventLoop;
@@ -57,7 +59,7 @@ public:
     void resetMask();
     void retranslate();
     /// OK and Cancel, as far as nobody has deleted them.
-    QVector<QPair<CustomMainWindow::Button, CustomPushButton *>> standardButtons() const;
+    std::vector<std::pair<CustomMainWindow::Button, CustomPushButton *>> standardButtons() const;
     /// Whether a press at these places, on a popup, is one outside.
     static bool isOutside(const CustomMainWindow &popup, const QPoint &local, const QPoint &global);
     void watchLevel();

@@ -22,9 +22,9 @@ public:
     /// Shows \p text below the global position \p pos, or above it where the screen ends. An empty text hides the tip
     /// after 300 ms.
     ///
-    /// \p w is the widget that the tip belongs to, not owned; the tip goes with it. The tip stays as it is while it is
-    /// asked for with the same text and widget at positions inside \p rect, in coordinates of \p w, and hides when the
-    /// pointer leaves \p rect. A \p rect needs a widget: without one it is left out, with a warning. A null \p rect
+    /// \p w is the widget that the tip belongs to, not owned; a new tip goes with it. The tip stays as it is while it
+    /// is asked for with the same text and widget at positions inside \p rect, in coordinates of \p w, and hides when
+    /// the pointer leaves \p rect. A \p rect needs a widget: without one it is left out, with a warning. A null \p rect
     /// sets no bounds.
     ///
     /// The tip lives for \p msecShowTime ms; 0 or less stands for 10 s and another 40 ms for each character beyond
