@@ -1,4 +1,3 @@
-#include "style/CaseFile.h"
 #include "style/StyleHost.h"
 
 #include "Appearance.h"
@@ -16,7 +15,6 @@
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QScrollArea>
 
-using CaseFile::cell;
 
 namespace {
 
@@ -155,7 +153,7 @@ private Q_SLOTS:
         }
     }
 
-    void answers_data() { CaseFile::addRows("engine", { "in", "selector", "subs", "key", "status", "value", "last" }); }
+    void answers_data() { addRowsOf("cases/engine.txt"_s, { "in", "selector", "subs", "key", "status", "value", "last" }); }
     void answers()
     {
         Gallery gallery("engine"_s);
@@ -166,7 +164,7 @@ private Q_SLOTS:
         query.parentClass = cell("in");
         query.selector = cell("selector");
         query.subSelectors = subSelectorsOf(cell("subs"));
-        QTEST(answer(gallery, query, CaseFile::status()), "value");
+        QTEST(answer(gallery, query, status()), "value");
         const Resolution way = gallery.engine->resolution();
         QString last;
         if (way.found)

@@ -1,10 +1,8 @@
-#include "style/CaseFile.h"
 #include "style/StyleHost.h"
 
 #include <QtCore/QProcess>
 #include <QtXml/QDomDocument>
 
-using CaseFile::cell;
 
 namespace {
 
@@ -58,7 +56,7 @@ class tst_GalleryProgram : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void commandLine_data() { CaseFile::addRows("command-lines", { "arguments", "status", "output", "errors" }); }
+    void commandLine_data() { addRowsOf("cases/command-lines.txt"_s, { "arguments", "status", "output", "errors" }); }
     void commandLine()
     {
         const Run result(cell("arguments").split(' '));

@@ -1,4 +1,3 @@
-#include "CaseFile.h"
 #include "StyleHost.h"
 #include "support/Probe.h"
 
@@ -11,7 +10,6 @@
 #include <QtCore/QResource>
 #include <QtWidgets/QLabel>
 
-using CaseFile::cell;
 
 namespace {
 
@@ -68,7 +66,7 @@ class TestDocument : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void damagedFiles_data() { CaseFile::addRows("documents", { "file", "read", "colors" }); }
+    void damagedFiles_data() { addRowsOf("cases/documents.txt"_s, { "file", "read", "colors" }); }
     void damagedFiles()
     {
         const QString path = dataFile(cell("file") + ".xml");
@@ -83,7 +81,7 @@ private Q_SLOTS:
         }
     }
 
-    void lookups_data() { CaseFile::addRows("lookups", { "class", "selector", "parent", "key", "first", "both" }); }
+    void lookups_data() { addRowsOf("cases/lookups.txt"_s, { "class", "selector", "parent", "key", "first", "both" }); }
     void lookups()
     {
         const auto found = [] {
@@ -99,10 +97,10 @@ private Q_SLOTS:
         QTEST(found(), "both");
     }
 
-    void depthThatNobodyMeant_data() { CaseFile::addRows("depths", { "what", "head", "open", "close", "levels" }); }
+    void depthThatNobodyMeant_data() { addRowsOf("cases/depths.txt"_s, { "what", "head", "open", "close", "levels" }); }
     void depthThatNobodyMeant()
     {
-        const int levels = int(CaseFile::number("levels"));
+        const int levels = int(number("levels"));
         const QString text
             = cell("head") + "<Style>" + cell("open").repeated(levels) + cell("close").repeated(levels) + "</Style>";
         Custom::addXmlPath(scratchFile(text.toLatin1()));

@@ -1,4 +1,3 @@
-#include "CaseFile.h"
 #include "StyleHost.h"
 #include "support/Probe.h"
 
@@ -10,7 +9,6 @@
 
 #include <QtWidgets/QGraphicsEffect>
 
-using CaseFile::cell;
 using Custom::En_us;
 using Custom::Zh_cn;
 
@@ -169,7 +167,7 @@ private Q_SLOTS:
         QVERIFY(!host.graphicsEffect() && !host.cShadowEnable() && host.cShadowBulrRadius() == 0.0F);
     }
 
-    void families_data() { CaseFile::addRows("families", { "attributes", "zh", "en", "inForce", "toZh", "toEn" }); }
+    void families_data() { addRowsOf("cases/families.txt"_s, { "attributes", "zh", "en", "inForce", "toZh", "toEn" }); }
     void families()
     {
         addDocument(classXml("Global", "Default", cell("attributes").toUtf8()));
@@ -195,17 +193,17 @@ private Q_SLOTS:
         QCOMPARE(changedTo(En_us), "New changes"_s);
     }
 
-    void sheetsOfAllTypes_data() { CaseFile::addRows("sheets", { "type", "tag" }); }
+    void sheetsOfAllTypes_data() { addRowsOf("cases/sheets.txt"_s, { "type", "tag" }); }
     void sheetsOfAllTypes()
     {
-        const int type = int(CaseFile::number("type"));
+        const int type = int(number("type"));
         addSheet(cell("tag").toUtf8(), scratchFile("sheet").toUtf8());
         addSheet(cell("tag").toLower().toUtf8(), "/no/such/file"); // tags keep their case
         for (int i = -1; i <= 11; ++i)
             QCOMPARE(Custom::styleSheet(Custom::StyleSheetType(i)), i == type ? "sheet"_s : QString());
     }
 
-    void placeholders_data() { CaseFile::addRows("placeholders", { "file", "sheet" }); }
+    void placeholders_data() { addRowsOf("cases/placeholders.txt"_s, { "file", "sheet" }); }
     void placeholders()
     {
         Custom::addXmlPath(dataFile("families.xml"_s));

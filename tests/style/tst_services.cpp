@@ -1,4 +1,3 @@
-#include "CaseFile.h"
 #include "StyleHost.h"
 
 #include "style/CustomPrivate_p.h"
@@ -62,12 +61,12 @@ class TestServices : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void lowestIdWithExactlyTheseModifiersWins_data() { CaseFile::addRows("hotkeys", { "gone", "keys", "id" }); }
+    void lowestIdWithExactlyTheseModifiersWins_data() { addRowsOf("cases/hotkeys.txt"_s, { "gone", "keys", "id" }); }
     void lowestIdWithExactlyTheseModifiersWins()
     {
         MainDialog dialog;
-        Custom::unRegisterHotKey(int(CaseFile::number("gone")));
-        QCOMPARE(press(CaseFile::cell("keys")), !CaseFile::cell("id").isEmpty());
+        Custom::unRegisterHotKey(int(number("gone")));
+        QCOMPARE(press(cell("keys")), !cell("id").isEmpty());
         QTEST(dialog.taken(), "id");
     }
 
@@ -111,8 +110,8 @@ private Q_SLOTS:
         QVERIFY(CustomPrivate::m_AllHotKey.isEmpty() && dialog.taken() == "3"_s);
     }
 
-    void versionText_data() { CaseFile::addRows("versions", { "date", "version" }); }
-    void versionText() { QTEST(CustomPrivate::versionText(CaseFile::cell("date")), "version"); }
+    void versionText_data() { addRowsOf("cases/versions.txt"_s, { "date", "version" }); }
+    void versionText() { QTEST(CustomPrivate::versionText(cell("date")), "version"); }
 
     void childLayoutsAreTakenFromAnyDepth()
     {

@@ -1,11 +1,8 @@
-#include "CaseFile.h"
 #include "StyleHost.h"
 
 #include "style/CustomStyleSheetData_p.h"
 #include "style/StyleColors_p.h"
 
-using CaseFile::cell;
-using CaseFile::number;
 
 namespace {
 
@@ -85,7 +82,7 @@ private Q_SLOTS:
         QCOMPARE(host.cGetItemStatus(QStyle::State_Enabled | QStyle::State_On), Custom::Normal);
     }
 
-    void colorTexts_data() { CaseFile::addRows("colors", { "text", "brush", "named" }); }
+    void colorTexts_data() { addRowsOf("cases/colors.txt"_s, { "text", "brush", "named" }); }
     void colorTexts()
     {
         const QString text = cell("text");
@@ -99,7 +96,7 @@ private Q_SLOTS:
         compareParsed(text);
     }
 
-    void gradientTexts_data() { CaseFile::addRows("gradients", { "text", "size", "expected" }); }
+    void gradientTexts_data() { addRowsOf("cases/gradients.txt"_s, { "text", "size", "expected" }); }
     void gradientTexts()
     {
         addColors("<Color Id='Link' Value='#ff0000'/>");
@@ -124,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(Custom::string2Color(QStringLiteral("DB_COLOR_C%1").arg(kLinks)), QColor(0x12, 0x34, 0x56));
     }
 
-    void writtenGradients_data() { CaseFile::addRows("written-gradients", { "points", "expected" }); }
+    void writtenGradients_data() { addRowsOf("cases/written-gradients.txt"_s, { "points", "expected" }); }
     void writtenGradients()
     {
         QLinearGradient gradient(number("points", 0), number("points", 1), number("points", 2), number("points", 3));
