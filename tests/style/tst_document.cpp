@@ -10,7 +10,6 @@
 #include <QtCore/QResource>
 #include <QtWidgets/QLabel>
 
-
 namespace {
 
 const QString s_strBasePath = QStringLiteral(":/Zanthic/QSS/CustomStyleSheet.xml");

@@ -197,7 +197,10 @@ private Q_SLOTS:
         QCOMPARE(finalStop(host.cBorderColor(Custom::AllEdge)), QPointF(1, 1));
     }
 
-    void settersWriteTheirAttributesAndFlag_data() { addRowsOf("cases/setters.txt"_s, { "setter", "flag", "notices" }); }
+    void settersWriteTheirAttributesAndFlag_data()
+    {
+        addRowsOf("cases/setters.txt"_s, { "setter", "flag", "notices" });
+    }
     void settersWriteTheirAttributesAndFlag()
     {
         const QMap<QString, std::function<void(CustomObject &)>> setters{

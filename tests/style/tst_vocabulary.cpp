@@ -3,26 +3,7 @@
 #include "style/CustomStyleSheetData_p.h"
 #include "style/StyleColors_p.h"
 
-
 namespace {
-
-QString colorName(const QColor &color)
-{
-    return color.isValid() ? color.name(QColor::HexArgb) : "invalid"_s;
-}
-
-QString described(const QBrush &brush)
-{
-    if (!brush.gradient())
-        return brush.style() == Qt::SolidPattern ? colorName(brush.color()) : "none"_s;
-    const auto &gradient = *static_cast<const QLinearGradient *>(brush.gradient());
-    const QPointF a = gradient.start();
-    const QPointF b = gradient.finalStop();
-    QString text = QStringLiteral("%1,%2 %3,%4").arg(a.x()).arg(a.y()).arg(b.x()).arg(b.y());
-    for (const QGradientStop &stop : gradient.stops())
-        text += QStringLiteral(" %1 %2").arg(stop.first).arg(colorName(stop.second));
-    return text;
-}
 
 // The same brush by the function and by the text that is parsed once, for every rectangle.
 void compareParsed(const QString &text)
