@@ -267,49 +267,6 @@ private Q_SLOTS:
             QVERIFY(guard.isNull());
         }
     }
-
-    void languageChangesTheFont()
-    {
-        addDocument("");
-        Custom::setGlobalFontFamily(Custom::En_us, "Family A"_s);
-        Custom::setGlobalFontFamily(Custom::Zh_cn, "Family B"_s);
-        Custom::setLanguage(Custom::En_us);
-        Window window;
-        QCOMPARE(window.push->cFontFamily(), "Family A"_s);
-        Custom::setLanguage(Custom::Zh_cn);
-        for (QAbstractButton *button : window.buttons) {
-            QCOMPARE(button->font().family(), "Family A"_s);
-            QEvent event(QEvent::LanguageChange);
-            QApplication::sendEvent(button, &event);
-            QCOMPARE(button->font().family(), "Family B"_s);
-        }
-    }
-
-    void imagesFollowTheSkin()
-    {
-        const QString path = picture(Qt::red);
-        addStyle("CustomCheckBox", "BackgroundImage:unchecked="_s + path);
-        CustomCheckBox box;
-        CustomPushButton icon, image, border;
-        icon.cSetIcon(path);
-        icon.cSetBackgroundColor("#ffffff"_s);
-        image.cSetBackgroundImage(path);
-        border.cSetBorderImage(path);
-        for (const QString &color : { kRed, kBlue }) {
-            for (QWidget *button : { static_cast<QWidget *>(&box), static_cast<QWidget *>(&icon),
-                     static_cast<QWidget *>(&image), static_cast<QWidget *>(&border) }) {
-                button->resize(16, 16);
-                QCOMPARE(Probe::colorAt(Probe::grab(button), 8, 8), color);
-            }
-            // Another picture of the same size and time at the same path.
-            const QDateTime time = QFileInfo(path).lastModified();
-            QFile file(path);
-            QVERIFY(file.remove() && QFile::rename(picture(Qt::blue), path) && file.open(QIODevice::ReadWrite));
-            QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
-            file.close();
-            Custom::changeSkin();
-        }
-    }
 };
 
 ZANTHIC_TEST_MAIN(ButtonsTest)

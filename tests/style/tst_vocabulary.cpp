@@ -53,16 +53,6 @@ private Q_SLOTS:
         }
     }
 
-    void statusOfStyleState()
-    {
-        const StyleHost host;
-        const QStyle::State all = QStyle::State_Enabled | QStyle::State_Sunken | QStyle::State_MouseOver;
-        QCOMPARE(host.cGetItemStatus(all & ~QStyle::State_Enabled), Custom::Disabled);
-        QCOMPARE(host.cGetItemStatus(all), Custom::Pressed);
-        QCOMPARE(host.cGetItemStatus(all & ~QStyle::State_Sunken), Custom::Hover);
-        QCOMPARE(host.cGetItemStatus(QStyle::State_Enabled | QStyle::State_On), Custom::Normal);
-    }
-
     void colorTexts_data() { addRowsOf("cases/colors.txt"_s, { "text", "brush", "named" }); }
     void colorTexts()
     {
