@@ -1,14 +1,7 @@
 #include "style/StyleHost.h"
 #include "support/Probe.h"
 
-#include <Zanthic/CustomCheckBox.h>
-#include <Zanthic/CustomFrame.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomRadioButton.h>
-#include <Zanthic/CustomWidget.h>
-
-#include <QtGui/QPainter>
-#include <QtWidgets/QStyleOption>
+#include <Zanthic/Zanthic.h>
 
 namespace {
 

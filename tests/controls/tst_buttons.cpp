@@ -2,13 +2,7 @@
 #include "style/StyleHost.h"
 #include "support/Probe.h"
 
-#include <Zanthic/CustomCheckBox.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomRadioButton.h>
-
-#include <QtCore/QElapsedTimer>
-#include <QtGui/QMouseEvent>
-#include <QtWidgets/QStyleOption>
+#include <Zanthic/Zanthic.h>
 
 using Private = CustomPushButtonPrivate;
 

@@ -1,15 +1,8 @@
 #include "style/StyleHost.h"
 #include "support/Probe.h"
 
-#include <Zanthic/CustomCheckBox.h>
-#include <Zanthic/CustomFrame.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomRadioButton.h>
-#include <Zanthic/CustomWidget.h>
+#include <Zanthic/Zanthic.h>
 #include <Zanthic/ZanthicTheme.h>
-
-#include <QtGui/QPainter>
-#include <QtWidgets/QStyleOption>
 
 namespace {
 

@@ -14,8 +14,6 @@
 
 #include <Zanthic/ZanthicTheme.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QRegularExpression>
 #include <QtXml/QDomDocument>
 
 namespace {

@@ -5,10 +5,8 @@
 #include "pages/EnginePage.h"
 #include "pages/PageRegistry.h"
 
-#include <Zanthic/CustomLineEdit.h>
-#include <Zanthic/CustomPushButton.h>
+#include <Zanthic/Zanthic.h>
 
-#include <QtWidgets/QtWidgets>
 #include <QtXml/QDomDocument>
 
 namespace {

@@ -2,14 +2,7 @@
 #include "style/StyleHost.h"
 #include "support/Probe.h"
 
-#include <Zanthic/CustomCheckBox.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomRadioButton.h>
-
-#include <QtGui/QPainter>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QProxyStyle>
-#include <QtWidgets/QStyleOption>
+#include <Zanthic/Zanthic.h>
 
 namespace {
 

@@ -6,8 +6,6 @@
 
 #include <Zanthic/CustomObject.h>
 
-#include <QtWidgets/QWidget>
-
 /// A control with nothing but the mix-in; it records what cNotifyUpdateValue() is told and when it is painted.
 class StyleHost : public QWidget, public CustomObject
 {

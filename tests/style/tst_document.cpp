@@ -3,12 +3,7 @@
 
 #include "style/CustomStyleSheetData_p.h"
 
-#include <Zanthic/ChangeSkinEvent.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomWidget.h>
-
-#include <QtCore/QResource>
-#include <QtWidgets/QLabel>
+#include <Zanthic/Zanthic.h>
 
 namespace {
 

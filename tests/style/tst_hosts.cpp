@@ -3,12 +3,7 @@
 
 #include "style/CustomPrivate_p.h"
 
-#include <Zanthic/ChangeSkinEvent.h>
-#include <Zanthic/CustomFrame.h>
-#include <Zanthic/CustomWidget.h>
-#include <Zanthic/HotKeyEvent.h>
-
-#include <QtWidgets/QtWidgets>
+#include <Zanthic/Zanthic.h>
 
 using Custom::En_us;
 using Custom::Zh_cn;

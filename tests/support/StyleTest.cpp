@@ -3,10 +3,6 @@
 #include "style/CustomPrivate_p.h"
 #include "style/CustomStyleSheetData_p.h"
 
-#include <QtCore/QRegularExpression>
-#include <QtGui/QImage>
-#include <QtWidgets/QApplication>
-
 namespace {
 
 // What the offscreen platform says of masks of windows and of sizes that a layout asks for.

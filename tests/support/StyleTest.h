@@ -2,13 +2,8 @@
 
 #include "style/Custom.h"
 
-#include <QtCore/QByteArray>
-#include <QtCore/QMetaEnum>
-#include <QtCore/QObject>
-#include <QtCore/QRect>
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QColor>
 #include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
 
 #include <memory>
 
@@ -40,9 +35,10 @@ public:
     /// The path of a new picture in one colour.
     QString picture(const QColor &color, const QSize &size = QSize(16, 16));
 
-    /// Adds a row for each line of a file in tests/data, whose cells stand between bars, without the blanks around them.
-    /// Lines that begin with "# " are comments. Without names of columns the first cell names the row and the others are
-    /// its one column "fields"; otherwise each is a text of its own, quotes keep its blanks, and the line names the row.
+    /// Adds a row for each line of a file in tests/data, whose cells stand between bars, without the blanks around
+    /// them. Lines that begin with "# " are comments. Without names of columns the first cell names the row and the
+    /// others are its one column "fields"; otherwise each is a text of its own, quotes keep its blanks, and the line
+    /// names the row.
     static void addRowsOf(const QString &file, std::initializer_list<const char *> columns = {});
     /// The text of a column in the current row.
     static QString cell(const char *column);

@@ -3,12 +3,9 @@
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/ZanthicTheme.h>
 
-#include <QtCore/QDirIterator>
-#include <QtCore/QRegularExpression>
 #include <QtXml/QDomDocument>
 
 #include <cmath>
-
 
 namespace {
 
