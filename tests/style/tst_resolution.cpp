@@ -70,9 +70,6 @@ class TestResolution : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void keys_data() { addRowsOf("cases/keys.txt"_s, { "attribute", "status", "subs", "key" }); }
-    void keys() { QTEST(CustomObjectData::getFullAttrName(cell("attribute"), status(), subs()), "key"); }
-
     void orderOfFallback_data() { addRowsOf("cases/fallback.txt"_s, { "lh", "dh", "ln", "dn", "hover", "normal" }); }
     void orderOfFallback()
     {
