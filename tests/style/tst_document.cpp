@@ -185,24 +185,23 @@ private Q_SLOTS:
 
     void skinChangeShowsOtherPictures()
     {
-        std::vector<std::unique_ptr<QWidget>> widgets;
-        for (const auto &selector : { "Default"_s, "Image"_s, "Base"_s, "Border"_s, "Texture"_s }) {
-            auto widget = std::make_unique<CustomWidget>();
-            widget->cSetStyleSelector(selector);
-            widgets.push_back(std::move(widget));
+        CustomWidget boxes[5];
+        CustomPushButton button;
+        SheetLabel label;
+        QList<QWidget *> widgets{ &button, &label };
+        for (int i = 0; i < 5; ++i) {
+            boxes[i].cSetStyleSelector(QStringList({ "Default", "Image", "Base", "Border", "Texture" }).at(i));
+            widgets.append(&boxes[i]);
         }
-        auto button = std::make_unique<CustomPushButton>();
-        button->cSetIcon(":/Zanthic/picture.png"_s);
-        widgets.push_back(std::move(button));
-        widgets.push_back(std::make_unique<SheetLabel>());
+        button.cSetIcon(":/Zanthic/picture.png"_s);
         QMap<QString, QList<QImage>> pictures;
         for (const auto &name : { "red"_s, "blue"_s, "red"_s }) {
             useSkin(name);
             Custom::changeSkin();
             QList<QImage> images;
-            for (const auto &widget : widgets) {
+            for (QWidget *widget : qAsConst(widgets)) {
                 widget->resize(40, 40);
-                images.append(Probe::grab(widget.get()));
+                images.append(Probe::grab(widget));
                 QVERIFY2(shows(images.last(), QColor(name)), qPrintable(QString::number(images.size())));
                 QVERIFY2(!shows(images.last(), name == "red"_s ? Qt::blue : Qt::red), qPrintable(name));
             }
