@@ -328,13 +328,15 @@ private Q_SLOTS:
         outer.addWidget(new QWidget);
         outer.addLayout(middle, 1, 1);
         middle->addWidget(new QWidget);
-        middle->addItem(inner);
+        QLayout *deep = Custom::createLayout(Qt::Vertical);
+        middle->addItem(deep);
+        deep->addItem(inner);
         Custom::removeChildLayoutItem(nullptr, inner);
         Custom::removeChildLayoutItem(&outer, nullptr);
         Custom::removeChildLayoutItem(middle, &outer); // is no child of it
-        QVERIFY(outer.count() == 2 && middle->count() == 2);
+        QVERIFY(deep->count() == 1);
         Custom::removeChildLayoutItem(&outer, inner);
-        QVERIFY(outer.count() == 2 && middle->count() == 1);
+        QVERIFY(outer.count() == 2 && middle->count() == 2 && deep->count() == 0);
         delete inner; // it isn't deleted
     }
 };
