@@ -1,15 +1,8 @@
+#include "style/StyleHost.h"
 #include "support/Probe.h"
-#include "support/StyleTest.h"
 
-#include <Zanthic/CustomCheckBox.h>
-#include <Zanthic/CustomFrame.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomRadioButton.h>
-#include <Zanthic/CustomWidget.h>
+#include <Zanthic/Zanthic.h>
 #include <Zanthic/ZanthicTheme.h>
-
-#include <QtGui/QPainter>
-#include <QtWidgets/QStyleOption>
 
 namespace {
 
@@ -20,106 +13,79 @@ const QStyle::State kNormal = QStyle::State_Enabled | QStyle::State_Active;
 const QList<QStyle::State> kStates{ kNormal, kNormal | QStyle::State_MouseOver, kNormal | QStyle::State_Sunken,
     QStyle::State_Active };
 
-// A live control in one state of a sheet.
-struct Cell
-{
-    std::shared_ptr<QWidget> control;
-    QStyle::State state;
-};
-
 struct Sheet
 {
     QString name;
     Custom::CustomWidgetType type;
     int columns;
-    QVector<Cell> cells; // row by row
+    QVector<std::shared_ptr<QWidget>> cells; // live controls, row by row
+    QVector<QStyle::State> states; // of the cells
 };
 
-// Each selector in a row: every status, then an icon at every side.
-Sheet pushButtons()
+QVector<Sheet> sheets()
 {
-    Sheet sheet{ QStringLiteral("push-button"), Custom::WidgetPushButton, 8, {} };
+    QVector<Sheet> result{ { "push-button"_s, Custom::WidgetPushButton, 8, {}, {} },
+        { "check-box"_s, Custom::WidgetCheckBox, 4, {}, {} },
+        { "radio-button"_s, Custom::WidgetRadioButton, 4, {}, {} }, { "box"_s, Custom::WidgetGeneric, 4, {}, {} } };
+    const auto add = [&](int sheet, QWidget *control, QStyle::State state) {
+        result[sheet].cells.append(std::shared_ptr<QWidget>(control));
+        result[sheet].states.append(state);
+    };
+    // Each selector in a row: every status, then an icon at every side.
     for (int i = 0; i < 40; ++i) {
-        const auto selector = CustomPushButton::StyleSelector(i / 8);
-        const auto button = std::make_shared<CustomPushButton>(QStringLiteral("Button"), nullptr, selector);
+        auto *button = new CustomPushButton("Button"_s, nullptr, CustomPushButton::StyleSelector(i / 8));
         const Qt::Alignment sides[] = { Qt::AlignLeft, Qt::AlignRight, Qt::AlignTop, Qt::AlignBottom };
         if (i % 8 >= 4) {
-            button->cSetIcon(QStringLiteral(":/Zanthic/Control/Arrow_right.png"));
+            button->cSetIcon(":/Zanthic/Control/Arrow_right.png"_s);
             button->cSetIconAlign(sides[i % 4]);
         }
-        sheet.cells.append({ button, kStates.value(i % 8, kNormal) });
+        add(0, button, kStates.value(i % 8, kNormal));
     }
-    return sheet;
-}
-
-// Each selector in three rows: unchecked, partially checked, checked.
-Sheet checkBoxes()
-{
-    Sheet sheet{ QStringLiteral("check-box"), Custom::WidgetCheckBox, 4, {} };
-    for (int i = 0; i < 60; ++i) {
-        const QStyle::State checks[] = { QStyle::State_Off, QStyle::State_None, QStyle::State_On };
-        const auto selector = CustomCheckBox::StyleSelector(i / 12);
-        sheet.cells.append({ std::make_shared<CustomCheckBox>(QStringLiteral("Text"), nullptr, selector),
-            kStates[i % 4] | checks[i / 4 % 3] });
-    }
-    return sheet;
-}
-
-Sheet radioButtons()
-{
-    Sheet sheet{ QStringLiteral("radio-button"), Custom::WidgetRadioButton, 4, {} };
+    // Each selector in three rows: unchecked, partially checked, checked.
+    const QStyle::State checks[] = { QStyle::State_Off, QStyle::State_None, QStyle::State_On };
+    for (int i = 0; i < 60; ++i)
+        add(1, new CustomCheckBox("Text"_s, nullptr, CustomCheckBox::StyleSelector(i / 12)),
+            kStates[i % 4] | checks[i / 4 % 3]);
     for (int i = 0; i < 8; ++i)
-        sheet.cells.append({ std::make_shared<CustomRadioButton>(QStringLiteral("Text")),
-            kStates[i % 4] | (i < 4 ? QStyle::State_Off : QStyle::State_On) });
-    return sheet;
-}
-
-// The two plain boxes, each selector in a row.
-Sheet boxes()
-{
-    Sheet sheet{ QStringLiteral("box"), Custom::WidgetGeneric, 4, {} };
+        add(2, new CustomRadioButton("Text"_s), kStates[i % 4] | checks[i / 4 * 2]);
+    // The two plain boxes, each selector in a row.
     for (int i = 0; i < 24; ++i) {
-        std::shared_ptr<QWidget> box;
-        if (i < 12)
-            box = std::make_shared<CustomWidget>();
-        else
-            box = std::make_shared<CustomFrame>();
-        dynamic_cast<CustomObject &>(*box).cSetStyleSelector(Custom::CommonStyleSelector(i / 4 % 3));
-        sheet.cells.append({ box, kStates[i % 4] });
+        QWidget *box = i < 12 ? static_cast<QWidget *>(new CustomWidget) : new CustomFrame;
+        dynamic_cast<CustomObject *>(box)->cSetStyleSelector(Custom::CommonStyleSelector(i / 4 % 3));
+        add(3, box, kStates[i % 4]);
     }
-    return sheet;
+    return result;
 }
 
 // A generic control is painted at rest whatever its state, so that a plain box is painted by its two halves.
-void paintControl(QPainter *painter, const Sheet &sheet, const Cell &cell)
+void paintControl(QPainter *painter, Custom::CustomWidgetType type, QWidget *control, QStyle::State state)
 {
-    auto &object = dynamic_cast<CustomObject &>(*cell.control);
+    auto &object = dynamic_cast<CustomObject &>(*control);
     QStyleOptionButton option;
-    option.initFrom(cell.control.get());
-    option.state = cell.state;
+    option.initFrom(control);
+    option.state = state;
     option.rect = QRect(QPoint(0, 0), kPlace.size());
-    if (const auto *button = qobject_cast<QAbstractButton *>(cell.control.get())) {
+    if (const auto *button = qobject_cast<QAbstractButton *>(control)) {
         option.text = button->text();
         option.icon = button->icon();
         option.iconSize = QSize(16, 16);
-        object.cDrawWidget(sheet.type, painter, option.rect, &option);
+        object.cDrawWidget(type, painter, option.rect, &option);
         return;
     }
-    object.cDrawBackground(painter, option.rect, object.cGetItemStatus(cell.state));
-    object.cDrawBorder(painter, option.rect, object.cGetItemStatus(cell.state));
+    object.cDrawBackground(painter, option.rect, object.cGetItemStatus(state));
+    object.cDrawBorder(painter, option.rect, object.cGetItemStatus(state));
 }
 
 QImage painted(const Sheet &sheet, qreal scale)
 {
     const QSize size(sheet.columns * kCell.width(), sheet.cells.size() / sheet.columns * kCell.height());
     const auto paint = [&](QPainter *painter) {
-        painter->fillRect(
-            QRect(QPoint(0, 0), size), Custom::getDataBaseColor(QStringLiteral("Custom_Window_Background")));
+        painter->fillRect(QRect(QPoint(0, 0), size), Custom::getDataBaseColor("Custom_Window_Background"_s));
         for (int i = 0; i < sheet.cells.size(); ++i) {
             painter->save();
             painter->translate(
                 kPlace.topLeft() + QPoint(i % sheet.columns * kCell.width(), i / sheet.columns * kCell.height()));
-            paintControl(painter, sheet, sheet.cells[i]);
+            paintControl(painter, sheet.type, sheet.cells[i].get(), sheet.states[i]);
             painter->restore();
         }
     };
@@ -130,9 +96,9 @@ QImage painted(const Sheet &sheet, qreal scale)
 bool apply(const QString &skin)
 {
     const bool applied = ZanthicTheme::applySkin(skin);
-    Custom::getAttrMap(QStringLiteral("custompushbutton"), QStringLiteral("default")); // takes up the base document
+    Custom::getAttrMap("custompushbutton"_s, "default"_s); // takes up the base document
     for (const Custom::Language language : { Custom::Zh_cn, Custom::En_us })
-        Custom::setGlobalFontFamily(language, QStringLiteral("DejaVu Sans"));
+        Custom::setGlobalFontFamily(language, "DejaVu Sans"_s);
     Custom::setLanguage(Custom::En_us);
     return applied;
 }
@@ -144,40 +110,30 @@ class PicturesTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyStateInEverySkinThereAndBack_data();
-    void everyStateInEverySkinThereAndBack();
-    void cleanupTestCase() { QVERIFY(ZanthicTheme::applySkin(QStringLiteral("light"))); }
-};
-
-void PicturesTest::everyStateInEverySkinThereAndBack_data()
-{
-    QTest::addColumn<int>("scale");
-    QTest::newRow("scale 1") << 1;
-    QTest::newRow("scale 2") << 2;
-}
-
-void PicturesTest::everyStateInEverySkinThereAndBack()
-{
-    QFETCH(int, scale);
-    QVERIFY(apply(QStringLiteral("light")));
-    const QVector<Sheet> sheets{ pushButtons(), checkBoxes(), radioButtons(), boxes() };
-    QMap<QString, QImage> first;
-    QString failures;
-    for (const QString &skin : { QStringLiteral("light"), QStringLiteral("dark"), QStringLiteral("light") }) {
-        QVERIFY(apply(skin));
-        for (const Sheet &sheet : sheets) {
-            const QString name = QStringLiteral("%1-%2-%3x").arg(sheet.name, skin).arg(scale);
-            const QImage image = painted(sheet, scale);
-            if (first.value(name, image) != image)
-                failures += name + QStringLiteral(" isn't what it was\n");
-            first[name] = image;
-            QString message;
-            if (!Probe::matchesPicture(image, name, &message))
-                failures += message + QLatin1Char('\n');
+    void everyStateInEverySkinThereAndBack()
+    {
+        QVERIFY(apply("light"_s));
+        const QVector<Sheet> all = sheets();
+        QMap<QString, QImage> first;
+        QString failures;
+        for (const auto &skin : { "light"_s, "dark"_s, "light"_s }) {
+            QVERIFY(apply(skin));
+            for (int i = 0; i < 2 * all.size(); ++i) {
+                const int scale = i % 2 + 1;
+                const QString name = QStringLiteral("%1-%2-%3x").arg(all[i / 2].name, skin).arg(scale);
+                const QImage image = painted(all[i / 2], scale);
+                if (first.value(name, image) != image)
+                    failures += name + " isn't what it was\n";
+                first[name] = image;
+                QString message;
+                if (!Probe::matchesPicture(image, name, &message))
+                    failures += message + '\n';
+            }
         }
+        QVERIFY2(failures.isEmpty(), qPrintable(failures));
     }
-    QVERIFY2(failures.isEmpty(), qPrintable(failures));
-}
+    void cleanupTestCase() { QVERIFY(ZanthicTheme::applySkin("light"_s)); }
+};
 
 ZANTHIC_TEST_MAIN(PicturesTest)
 #include "tst_pictures.moc"

@@ -6,8 +6,6 @@
 
 #include <Zanthic/CustomObject.h>
 
-#include <QtWidgets/QWidget>
-
 /// A control with nothing but the mix-in; it records what cNotifyUpdateValue() is told and when it is painted.
 class StyleHost : public QWidget, public CustomObject
 {
@@ -43,6 +41,25 @@ inline QString value(const CustomObject &object, const QString &attribute, Custo
     const QStringList &subs = {})
 {
     return object.cAttributeValue(attribute, status, subs);
+}
+
+inline QString colorName(const QColor &color)
+{
+    return color.isValid() ? color.name(QColor::HexArgb) : "invalid"_s;
+}
+
+/// "none", the colour, or start, end and stops of a gradient.
+inline QString described(const QBrush &brush)
+{
+    if (!brush.gradient())
+        return brush.style() == Qt::SolidPattern ? colorName(brush.color()) : "none"_s;
+    const auto &gradient = *static_cast<const QLinearGradient *>(brush.gradient());
+    const QPointF a = gradient.start();
+    const QPointF b = gradient.finalStop();
+    QString text = QStringLiteral("%1,%2 %3,%4").arg(a.x()).arg(a.y()).arg(b.x()).arg(b.y());
+    for (const QGradientStop &stop : gradient.stops())
+        text += QStringLiteral(" %1 %2").arg(stop.first).arg(colorName(stop.second));
+    return text;
 }
 
 /// The path of a file in tests/data/documents.

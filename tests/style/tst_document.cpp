@@ -1,17 +1,9 @@
-#include "CaseFile.h"
 #include "StyleHost.h"
 #include "support/Probe.h"
 
 #include "style/CustomStyleSheetData_p.h"
 
-#include <Zanthic/ChangeSkinEvent.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomWidget.h>
-
-#include <QtCore/QResource>
-#include <QtWidgets/QLabel>
-
-using CaseFile::cell;
+#include <Zanthic/Zanthic.h>
 
 namespace {
 
@@ -68,7 +60,7 @@ class TestDocument : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void damagedFiles_data() { CaseFile::addRows("documents", { "file", "read", "colors" }); }
+    void damagedFiles_data() { addRowsOf("cases/documents.txt"_s, { "file", "read", "colors" }); }
     void damagedFiles()
     {
         const QString path = dataFile(cell("file") + ".xml");
@@ -83,7 +75,7 @@ private Q_SLOTS:
         }
     }
 
-    void lookups_data() { CaseFile::addRows("lookups", { "class", "selector", "parent", "key", "first", "both" }); }
+    void lookups_data() { addRowsOf("cases/lookups.txt"_s, { "class", "selector", "parent", "key", "first", "both" }); }
     void lookups()
     {
         const auto found = [] {
@@ -99,10 +91,10 @@ private Q_SLOTS:
         QTEST(found(), "both");
     }
 
-    void depthThatNobodyMeant_data() { CaseFile::addRows("depths", { "what", "head", "open", "close", "levels" }); }
+    void depthThatNobodyMeant_data() { addRowsOf("cases/depths.txt"_s, { "what", "head", "open", "close", "levels" }); }
     void depthThatNobodyMeant()
     {
-        const int levels = int(CaseFile::number("levels"));
+        const int levels = int(number("levels"));
         const QString text
             = cell("head") + "<Style>" + cell("open").repeated(levels) + cell("close").repeated(levels) + "</Style>";
         Custom::addXmlPath(scratchFile(text.toLatin1()));
@@ -193,24 +185,23 @@ private Q_SLOTS:
 
     void skinChangeShowsOtherPictures()
     {
-        std::vector<std::unique_ptr<QWidget>> widgets;
-        for (const auto &selector : { "Default"_s, "Image"_s, "Base"_s, "Border"_s, "Texture"_s }) {
-            auto widget = std::make_unique<CustomWidget>();
-            widget->cSetStyleSelector(selector);
-            widgets.push_back(std::move(widget));
+        CustomWidget boxes[5];
+        CustomPushButton button;
+        SheetLabel label;
+        QList<QWidget *> widgets{ &button, &label };
+        for (int i = 0; i < 5; ++i) {
+            boxes[i].cSetStyleSelector(QStringList({ "Default", "Image", "Base", "Border", "Texture" }).at(i));
+            widgets.append(&boxes[i]);
         }
-        auto button = std::make_unique<CustomPushButton>();
-        button->cSetIcon(":/Zanthic/picture.png"_s);
-        widgets.push_back(std::move(button));
-        widgets.push_back(std::make_unique<SheetLabel>());
+        button.cSetIcon(":/Zanthic/picture.png"_s);
         QMap<QString, QList<QImage>> pictures;
         for (const auto &name : { "red"_s, "blue"_s, "red"_s }) {
             useSkin(name);
             Custom::changeSkin();
             QList<QImage> images;
-            for (const auto &widget : widgets) {
+            for (QWidget *widget : qAsConst(widgets)) {
                 widget->resize(40, 40);
-                images.append(Probe::grab(widget.get()));
+                images.append(Probe::grab(widget));
                 QVERIFY2(shows(images.last(), QColor(name)), qPrintable(QString::number(images.size())));
                 QVERIFY2(!shows(images.last(), name == "red"_s ? Qt::blue : Qt::red), qPrintable(name));
             }

@@ -1,16 +1,10 @@
-#include "CaseFile.h"
 #include "StyleHost.h"
 #include "support/Probe.h"
 
 #include "style/CustomPrivate_p.h"
 
-#include <Zanthic/ChangeSkinEvent.h>
-#include <Zanthic/CustomFrame.h>
-#include <Zanthic/CustomWidget.h>
+#include <Zanthic/Zanthic.h>
 
-#include <QtWidgets/QGraphicsEffect>
-
-using CaseFile::cell;
 using Custom::En_us;
 using Custom::Zh_cn;
 
@@ -43,6 +37,50 @@ QString changedTo(Custom::Language language)
 {
     Custom::setLanguage(language);
     return Custom::globalFontFamily() + (CustomPrivate::isFontFamilyChange() ? " changes" : "");
+}
+
+constexpr int kIntervalMs = 200;
+
+// An application's main dialog, with hot keys and without an earlier one that would keep the next one off.
+class MainDialog : public QWidget
+{
+public:
+    MainDialog()
+    {
+        Custom::setMainDialog(this);
+        Custom::registerHotKey(7, Qt::ControlModifier, Qt::Key_A);
+        Custom::registerHotKey(3, Qt::ControlModifier, Qt::Key_B);
+        Custom::registerHotKey(3, Qt::ControlModifier, Qt::Key_A);
+        Custom::registerHotKey(-2, Qt::AltModifier, Qt::Key_A);
+        Custom::registerHotKey(1, Qt::NoModifier, Qt::Key_F5);
+        QTest::qSleep(kIntervalMs + 5);
+    }
+    // The ids that have come.
+    QString taken()
+    {
+        QCoreApplication::sendPostedEvents(this);
+        return m_strTaken.trimmed();
+    }
+
+protected:
+    void customEvent(QEvent *event) override
+    {
+        QCOMPARE(int(event->type()), 5097);
+        m_strTaken += QStringLiteral(" %1").arg(static_cast<HotKeyEvent *>(event)->id());
+    }
+
+private:
+    QString m_strTaken;
+};
+
+// Presses keys; true when the press was accepted as a hot key.
+bool press(const QString &keys)
+{
+    const int modifiers = QKeySequence(keys)[0] & int(Qt::KeyboardModifierMask);
+    QKeyEvent event(QEvent::KeyPress, QKeySequence(keys)[0] & ~modifiers, Qt::KeyboardModifiers(modifiers));
+    event.ignore();
+    StyleHost().cRespondHotKey(&event);
+    return event.isAccepted();
 }
 
 } // namespace
@@ -169,7 +207,7 @@ private Q_SLOTS:
         QVERIFY(!host.graphicsEffect() && !host.cShadowEnable() && host.cShadowBulrRadius() == 0.0F);
     }
 
-    void families_data() { CaseFile::addRows("families", { "attributes", "zh", "en", "inForce", "toZh", "toEn" }); }
+    void families_data() { addRowsOf("cases/families.txt"_s, { "attributes", "zh", "en", "inForce", "toZh", "toEn" }); }
     void families()
     {
         addDocument(classXml("Global", "Default", cell("attributes").toUtf8()));
@@ -195,17 +233,17 @@ private Q_SLOTS:
         QCOMPARE(changedTo(En_us), "New changes"_s);
     }
 
-    void sheetsOfAllTypes_data() { CaseFile::addRows("sheets", { "type", "tag" }); }
+    void sheetsOfAllTypes_data() { addRowsOf("cases/sheets.txt"_s, { "type", "tag" }); }
     void sheetsOfAllTypes()
     {
-        const int type = int(CaseFile::number("type"));
+        const int type = int(number("type"));
         addSheet(cell("tag").toUtf8(), scratchFile("sheet").toUtf8());
         addSheet(cell("tag").toLower().toUtf8(), "/no/such/file"); // tags keep their case
         for (int i = -1; i <= 11; ++i)
             QCOMPARE(Custom::styleSheet(Custom::StyleSheetType(i)), i == type ? "sheet"_s : QString());
     }
 
-    void placeholders_data() { CaseFile::addRows("placeholders", { "file", "sheet" }); }
+    void placeholders_data() { addRowsOf("cases/placeholders.txt"_s, { "file", "sheet" }); }
     void placeholders()
     {
         Custom::addXmlPath(dataFile("families.xml"_s));
@@ -225,6 +263,81 @@ private Q_SLOTS:
         QCOMPARE(Custom::styleSheet(Custom::SheetSlider), "one Family En"_s);
         Custom::changeSkin(); // reads the families of the documents again, too
         QCOMPARE(Custom::styleSheet(Custom::SheetSlider), "two Family En"_s);
+    }
+
+    void lowestIdWithExactlyTheseModifiersWins_data() { addRowsOf("cases/hotkeys.txt"_s, { "gone", "keys", "id" }); }
+    void lowestIdWithExactlyTheseModifiersWins()
+    {
+        MainDialog dialog;
+        Custom::unRegisterHotKey(int(number("gone")));
+        QCOMPARE(press(cell("keys")), !cell("id").isEmpty());
+        QTEST(dialog.taken(), "id");
+    }
+
+    void oneHotKeyInTwoHundredMilliseconds()
+    {
+        MainDialog dialog;
+        QElapsedTimer sinceFirst;
+        sinceFirst.start();
+        QVERIFY(press("Ctrl+A"_s));
+        // Over all hot keys together, and what is dropped doesn't put the next one off.
+        int dropped = 0;
+        for (; !press("F5"_s) && sinceFirst.elapsed() < 5000; ++dropped)
+            QTest::qSleep(2);
+        QVERIFY2(sinceFirst.elapsed() >= kIntervalMs && dropped > 0, qPrintable(QString::number(sinceFirst.elapsed())));
+        QCOMPARE(dialog.taken(), "3 1"_s);
+    }
+
+    void mainDialogMayBeMissing()
+    {
+        delete new MainDialog;
+        expectWarning("null receiver"_s);
+        QVERIFY(!Custom::mainDialog() && press("Ctrl+A"_s));
+    }
+
+    void modalWindowsSwitchHotKeysOff()
+    {
+        MainDialog dialog;
+        QWidget window;
+        CustomPrivate::addModalWidget(&dialog);
+        QVERIFY(Custom::enableActiveShortcut());
+        CustomPrivate::addModalWidget(&window);
+        CustomPrivate::addModalWidget(&window);
+        QVERIFY(!press("Ctrl+A"_s) && CustomPrivate::modalWidgetCount() == 1);
+        // A window that has become the main dialog since stays counted.
+        for (QWidget *main : { &window, static_cast<QWidget *>(&dialog) }) {
+            Custom::setMainDialog(main);
+            CustomPrivate::removeModalWidget(&window);
+            QCOMPARE(press("Ctrl+A"_s), main == &dialog);
+        }
+        Custom::clearHotKey();
+        QVERIFY(CustomPrivate::m_AllHotKey.isEmpty() && dialog.taken() == "3"_s);
+    }
+
+    void versionText_data() { addRowsOf("cases/versions.txt"_s, { "date", "version" }); }
+    void versionText() { QTEST(CustomPrivate::versionText(cell("date")), "version"); }
+
+    void childLayoutsAreTakenFromAnyDepth()
+    {
+        QWidget window;
+        QGridLayout outer(&window);
+        QLayout *middle = Custom::createLayout(Qt::Vertical);
+        QLayout *inner = Custom::createLayout(Qt::Horizontal);
+        QVERIFY(qobject_cast<QVBoxLayout *>(middle) && qobject_cast<QHBoxLayout *>(inner));
+        QVERIFY(inner->contentsMargins().isNull() && inner->spacing() == 0 && !inner->parent());
+        outer.addWidget(new QWidget);
+        outer.addLayout(middle, 1, 1);
+        middle->addWidget(new QWidget);
+        QLayout *deep = Custom::createLayout(Qt::Vertical);
+        middle->addItem(deep);
+        deep->addItem(inner);
+        Custom::removeChildLayoutItem(nullptr, inner);
+        Custom::removeChildLayoutItem(&outer, nullptr);
+        Custom::removeChildLayoutItem(middle, &outer); // is no child of it
+        QVERIFY(deep->count() == 1);
+        Custom::removeChildLayoutItem(&outer, inner);
+        QVERIFY(outer.count() == 2 && middle->count() == 2 && deep->count() == 0);
+        delete inner; // it isn't deleted
     }
 };
 

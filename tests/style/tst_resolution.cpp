@@ -1,10 +1,7 @@
-#include "CaseFile.h"
 #include "StyleHost.h"
 
 #include "style/CustomStyleSheetData_p.h"
 
-using CaseFile::cell;
-using CaseFile::number;
 using Custom::Disabled;
 using Custom::Hover;
 using Custom::Normal;
@@ -16,7 +13,7 @@ const QStringList s_lstItem{ QStringLiteral("item") };
 
 QStringList subs()
 {
-    return CaseFile::list("subs").replaceInStrings("_"_s, QString());
+    return StyleTest::list("subs").replaceInStrings("_"_s, QString());
 }
 
 QPointF finalStop(const QBrush &brush)
@@ -73,10 +70,7 @@ class TestResolution : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void keys_data() { CaseFile::addRows("keys", { "attribute", "status", "subs", "key" }); }
-    void keys() { QTEST(CustomObjectData::getFullAttrName(cell("attribute"), CaseFile::status(), subs()), "key"); }
-
-    void orderOfFallback_data() { CaseFile::addRows("fallback", { "lh", "dh", "ln", "dn", "hover", "normal" }); }
+    void orderOfFallback_data() { addRowsOf("cases/fallback.txt"_s, { "lh", "dh", "ln", "dn", "hover", "normal" }); }
     void orderOfFallback()
     {
         const auto document = QStringLiteral("<Mark:Left:Hover>%1</Mark:Left:Hover><mark:left>%2</mark:left>");
@@ -93,7 +87,7 @@ private Q_SLOTS:
 
     void reads_data()
     {
-        CaseFile::addRows("reads", { "class", "parent", "selector", "key", "status", "subs", "value" });
+        addRowsOf("cases/reads.txt"_s, { "class", "parent", "selector", "key", "status", "subs", "value" });
     }
     void reads()
     {
@@ -105,7 +99,7 @@ private Q_SLOTS:
         host.cSetParentClassName(cell("parent"));
         host.cFont();
         host.cSetClassName(cell("class"));
-        QTEST(value(host, cell("key"), CaseFile::status(), subs()), "value");
+        QTEST(value(host, cell("key"), status(), subs()), "value");
     }
 
     void firstOverrideWipesAndResetBringsBack()
@@ -200,7 +194,10 @@ private Q_SLOTS:
         QCOMPARE(finalStop(host.cBorderColor(Custom::AllEdge)), QPointF(1, 1));
     }
 
-    void settersWriteTheirAttributesAndFlag_data() { CaseFile::addRows("setters", { "setter", "flag", "notices" }); }
+    void settersWriteTheirAttributesAndFlag_data()
+    {
+        addRowsOf("cases/setters.txt"_s, { "setter", "flag", "notices" });
+    }
     void settersWriteTheirAttributesAndFlag()
     {
         const QMap<QString, std::function<void(CustomObject &)>> setters{
@@ -247,7 +244,7 @@ private Q_SLOTS:
         QCOMPARE(Custom::attributeValue("Sample"_s, "Mark"_s, "Default"_s, { "Item", "", "B" }), "two"_s);
     }
 
-    void hostGetsFontAndSize_data() { CaseFile::addRows("host-sizes", { "attributes", "maximum", "pixels" }); }
+    void hostGetsFontAndSize_data() { addRowsOf("cases/host-sizes.txt"_s, { "attributes", "maximum", "pixels" }); }
     void hostGetsFontAndSize()
     {
         addDocument(classXml("Global", "Default", "<FontFamily:Zh_cn>Global</FontFamily:Zh_cn>")
@@ -310,7 +307,7 @@ private Q_SLOTS:
         QVERIFY(style(c) == style(StyleHost()) && !c.data()->styleValues.isSharedWith(values));
     }
 
-    void cachedPathEqualsPlainPath_data() { CaseFile::addRows("hosts", { "selector", "parent" }); }
+    void cachedPathEqualsPlainPath_data() { addRowsOf("cases/hosts.txt"_s, { "selector", "parent" }); }
     void cachedPathEqualsPlainPath()
     {
         Custom::addXmlPath(dataFile("rich.xml"_s));

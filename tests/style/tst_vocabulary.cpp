@@ -1,31 +1,9 @@
-#include "CaseFile.h"
 #include "StyleHost.h"
 
 #include "style/CustomStyleSheetData_p.h"
 #include "style/StyleColors_p.h"
 
-using CaseFile::cell;
-using CaseFile::number;
-
 namespace {
-
-QString colorName(const QColor &color)
-{
-    return color.isValid() ? color.name(QColor::HexArgb) : "invalid"_s;
-}
-
-QString described(const QBrush &brush)
-{
-    if (!brush.gradient())
-        return brush.style() == Qt::SolidPattern ? colorName(brush.color()) : "none"_s;
-    const auto &gradient = *static_cast<const QLinearGradient *>(brush.gradient());
-    const QPointF a = gradient.start();
-    const QPointF b = gradient.finalStop();
-    QString text = QStringLiteral("%1,%2 %3,%4").arg(a.x()).arg(a.y()).arg(b.x()).arg(b.y());
-    for (const QGradientStop &stop : gradient.stops())
-        text += QStringLiteral(" %1 %2").arg(stop.first).arg(colorName(stop.second));
-    return text;
-}
 
 // The same brush by the function and by the text that is parsed once, for every rectangle.
 void compareParsed(const QString &text)
@@ -75,17 +53,7 @@ private Q_SLOTS:
         }
     }
 
-    void statusOfStyleState()
-    {
-        const StyleHost host;
-        const QStyle::State all = QStyle::State_Enabled | QStyle::State_Sunken | QStyle::State_MouseOver;
-        QCOMPARE(host.cGetItemStatus(all & ~QStyle::State_Enabled), Custom::Disabled);
-        QCOMPARE(host.cGetItemStatus(all), Custom::Pressed);
-        QCOMPARE(host.cGetItemStatus(all & ~QStyle::State_Sunken), Custom::Hover);
-        QCOMPARE(host.cGetItemStatus(QStyle::State_Enabled | QStyle::State_On), Custom::Normal);
-    }
-
-    void colorTexts_data() { CaseFile::addRows("colors", { "text", "brush", "named" }); }
+    void colorTexts_data() { addRowsOf("cases/colors.txt"_s, { "text", "brush", "named" }); }
     void colorTexts()
     {
         const QString text = cell("text");
@@ -99,7 +67,7 @@ private Q_SLOTS:
         compareParsed(text);
     }
 
-    void gradientTexts_data() { CaseFile::addRows("gradients", { "text", "size", "expected" }); }
+    void gradientTexts_data() { addRowsOf("cases/gradients.txt"_s, { "text", "size", "expected" }); }
     void gradientTexts()
     {
         addColors("<Color Id='Link' Value='#ff0000'/>");
@@ -124,7 +92,7 @@ private Q_SLOTS:
         QCOMPARE(Custom::string2Color(QStringLiteral("DB_COLOR_C%1").arg(kLinks)), QColor(0x12, 0x34, 0x56));
     }
 
-    void writtenGradients_data() { CaseFile::addRows("written-gradients", { "points", "expected" }); }
+    void writtenGradients_data() { addRowsOf("cases/written-gradients.txt"_s, { "points", "expected" }); }
     void writtenGradients()
     {
         QLinearGradient gradient(number("points", 0), number("points", 1), number("points", 2), number("points", 3));

@@ -3,10 +3,6 @@
 #include "style/CustomPrivate_p.h"
 #include "style/CustomStyleSheetData_p.h"
 
-#include <QtCore/QRegularExpression>
-#include <QtGui/QImage>
-#include <QtWidgets/QApplication>
-
 namespace {
 
 // What the offscreen platform says of masks of windows and of sizes that a layout asks for.
@@ -101,19 +97,51 @@ QString StyleTest::picture(const QColor &color, const QSize &size)
     return path;
 }
 
-void StyleTest::addRowsOf(const QString &file)
+void StyleTest::addRowsOf(const QString &file, std::initializer_list<const char *> columns)
 {
-    QTest::addColumn<QStringList>("fields");
+    for (const char *column : columns)
+        QTest::addColumn<QString>(column);
+    if (columns.size() == 0)
+        QTest::addColumn<QStringList>("fields");
     QFile data(QStringLiteral(ZANTHIC_TEST_DATA "/") + file);
     QVERIFY2(data.open(QIODevice::ReadOnly), qPrintable(file));
+    static const QRegularExpression quoted(QStringLiteral("^\"(.*)\"$"));
     for (const QString &line : QString::fromUtf8(data.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        if (line.startsWith(QLatin1String("# ")))
+            continue;
         QStringList fields = line.split(QLatin1Char('|'));
         for (QString &field : fields)
             field = field.trimmed();
-        const QString name = fields.takeFirst();
-        if (!name.startsWith(QLatin1Char('#')))
+        if (columns.size() == 0) {
+            const QString name = fields.takeFirst();
             QTest::newRow(qPrintable(name)) << fields;
+            continue;
+        }
+        QVERIFY2(fields.size() == int(columns.size()), qPrintable(line));
+        QTestData &row = QTest::newRow(qPrintable(line));
+        for (QString &field : fields)
+            row << field.replace(quoted, QStringLiteral("\\1"));
     }
+}
+
+QString StyleTest::cell(const char *column)
+{
+    return *static_cast<QString *>(QTest::qData(column, qMetaTypeId<QString>()));
+}
+
+QStringList StyleTest::list(const char *column)
+{
+    return cell(column).split(QLatin1Char(','), Qt::SkipEmptyParts);
+}
+
+double StyleTest::number(const char *column, int index)
+{
+    return list(column).value(index).toDouble();
+}
+
+Custom::ItemStatus StyleTest::status(const char *column)
+{
+    return qMax(Custom::Normal, enumerator<Custom::ItemStatus>(cell(column)));
 }
 
 QVector<double> StyleTest::numbersIn(const QString &text)

@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QtCore/QByteArray>
-#include <QtCore/QMetaEnum>
-#include <QtCore/QObject>
-#include <QtCore/QRect>
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QColor>
+#include "style/Custom.h"
+
 #include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
 
 #include <memory>
 
@@ -38,9 +35,19 @@ public:
     /// The path of a new picture in one colour.
     QString picture(const QColor &color, const QSize &size = QSize(16, 16));
 
-    /// Fills the test's only column, "fields", with one row a line of a file in tests/data: a name and the fields,
-    /// separated by bars. Lines that begin with "#" are comments.
-    static void addRowsOf(const QString &file);
+    /// Adds a row for each line of a file in tests/data, whose cells stand between bars, without the blanks around
+    /// them. Lines that begin with "# " are comments. Without names of columns the first cell names the row and the
+    /// others are its one column "fields"; otherwise each is a text of its own, quotes keep its blanks, and the line
+    /// names the row.
+    static void addRowsOf(const QString &file, std::initializer_list<const char *> columns = {});
+    /// The text of a column in the current row.
+    static QString cell(const char *column);
+    /// What a column holds between commas.
+    static QStringList list(const char *column);
+    /// The number at \p index of a column of numbers between commas; 0 where there is none.
+    static double number(const char *column, int index = 0);
+    /// The status that a column names by its word; Normal when it is empty.
+    static Custom::ItemStatus status(const char *column = "status");
     /// The numbers in a text, whatever stands between them.
     static QVector<double> numbersIn(const QString &text);
     /// Left, top, width and height; the null rectangle for an empty text.

@@ -1,16 +1,11 @@
-#include "style/CaseFile.h"
 #include "style/StyleHost.h"
 
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/ZanthicTheme.h>
 
-#include <QtCore/QDirIterator>
-#include <QtCore/QRegularExpression>
 #include <QtXml/QDomDocument>
 
 #include <cmath>
-
-using CaseFile::cell;
 
 namespace {
 
@@ -225,10 +220,10 @@ private Q_SLOTS:
         }
     }
 
-    void sheetsAreFilled_data() { CaseFile::addRows("sheets", { "type", "tag" }); }
+    void sheetsAreFilled_data() { addRowsOf("cases/sheets.txt"_s, { "type", "tag" }); }
     void sheetsAreFilled()
     {
-        const auto type = Custom::StyleSheetType(CaseFile::number("type"));
+        const auto type = Custom::StyleSheetType(number("type"));
         for (const QString &skin : ZanthicTheme::skins()) {
             QVERIFY(ZanthicTheme::applySkin(skin));
             QString sheet = Custom::styleSheet(type);
@@ -247,7 +242,7 @@ private Q_SLOTS:
         }
     }
 
-    void selectorsReadWell_data() { CaseFile::addRows("selectors", { "skin", "class", "selector", "parts" }); }
+    void selectorsReadWell_data() { addRowsOf("cases/selectors.txt"_s, { "skin", "class", "selector", "parts" }); }
     void selectorsReadWell()
     {
         QVERIFY(ZanthicTheme::applySkin(cell("skin")));
@@ -262,9 +257,9 @@ private Q_SLOTS:
         m_lstLooks.clear();
         const StyleHost host(cell("class"), cell("selector"));
         for (Custom::ItemStatus status : { Custom::Normal, Custom::Hover, Custom::Pressed, Custom::Disabled }) {
-            if (CaseFile::list("parts").isEmpty())
+            if (list("parts").isEmpty())
                 checkBox(host, status);
-            for (const QString &part : CaseFile::list("parts"))
+            for (const QString &part : list("parts"))
                 checkIndicator(host, status, part);
         }
         QCOMPARE(QSet<QByteArray>(m_lstLooks.begin(), m_lstLooks.end()).size(), m_lstLooks.size());
@@ -272,14 +267,14 @@ private Q_SLOTS:
 
     void imageButtonsReadWell_data()
     {
-        CaseFile::addRows("image-buttons", { "outer", "selectors", "height", "pages" });
+        addRowsOf("cases/image-buttons.txt"_s, { "outer", "selectors", "height", "pages" });
     }
     void imageButtonsReadWell()
     {
         const auto statuses = { Custom::Normal, Custom::Hover, Custom::Pressed, Custom::Disabled };
         for (const QString &skin : ZanthicTheme::skins()) {
             QVERIFY(ZanthicTheme::applySkin(skin));
-            for (const QString &selector : CaseFile::list("selectors")) {
+            for (const QString &selector : list("selectors")) {
                 StyleHost host("CustomPushButton"_s, selector);
                 host.cSetParentClassName(cell("outer"));
                 QVERIFY(host.cHasParameter(Custom::ParamBackgroundImage));
@@ -287,8 +282,8 @@ private Q_SLOTS:
                 for (Custom::ItemStatus status : statuses) {
                     const QString path = host.cBackgroundImage(status);
                     looks += bytes(path);
-                    QCOMPARE(QImage(path).size(), QSize(32, int(CaseFile::number("height"))));
-                    for (const QString &page : CaseFile::list("pages")) {
+                    QCOMPARE(QImage(path).size(), QSize(32, int(number("height"))));
+                    for (const QString &page : list("pages")) {
                         const double mark = markContrast(QImage(path), skinColor(page));
                         QVERIFY2(status == Custom::Disabled || mark >= kIndicatorContrast, qPrintable(path));
                     }
@@ -319,13 +314,13 @@ private Q_SLOTS:
         }
     }
 
-    void sheetColorsReadWell_data() { CaseFile::addRows("contrasts", { "front", "backs", "ratio" }); }
+    void sheetColorsReadWell_data() { addRowsOf("cases/contrasts.txt"_s, { "front", "backs", "ratio" }); }
     void sheetColorsReadWell()
     {
         for (const QString &skin : ZanthicTheme::skins()) {
             QVERIFY(ZanthicTheme::applySkin(skin));
-            for (const QString &back : CaseFile::list("backs"))
-                requireContrast(skinColor(cell("front")), skinColor(back), CaseFile::number("ratio"));
+            for (const QString &back : list("backs"))
+                requireContrast(skinColor(cell("front")), skinColor(back), number("ratio"));
         }
     }
 };
