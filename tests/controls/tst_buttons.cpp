@@ -187,7 +187,7 @@ private Q_SLOTS:
         const QVector<double> n = numbersIn(fields[0]);
         const bool guarded = n[0] > 0;
         const int clicks = int(n[2]);
-        // A machine that is too busy for 50 ms gets further tries.
+        // A machine that is too busy for 50 ms, or for the timer, gets further tries.
         for (int attempt = 0;; ++attempt) {
             QVERIFY(attempt < 20);
             Window window;
@@ -199,7 +199,8 @@ private Q_SLOTS:
             QCOMPARE(Private::get(window.push)->clickTimer.isActive(), guarded);
             QTest::qWait(int(n[1]));
             click(window.push);
-            if (clicks == 1 && timer.elapsed() > 90)
+            const bool isLate = clicks == 1 ? timer.elapsed() > 90 : guarded && spy.count() == 1;
+            if (isLate && attempt < 19)
                 continue;
             QCOMPARE(spy.count(), clicks);
             QCOMPARE(window.events, clicks == 1 ? 2 : 0); // dropped presses and releases go on to the parent
