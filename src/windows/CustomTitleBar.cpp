@@ -8,15 +8,19 @@
 #include <Zanthic/CustomLabel.h>
 #include <Zanthic/CustomPushButton.h>
 
+#include <QtCore/QTimer>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QTextDocument>
 #include <QtGui/QWindow>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QBoxLayout>
 
 namespace {
 
 constexpr Qt::WindowFlags kNormalFlags(0x2000803); // a frameless dialog
+constexpr int kLookAfterMs = 200;
+constexpr int kLateLookAfterMs = 1500; // on a busy machine
 constexpr Qt::WindowFlags kOnTopFlags(0x2000c03); // the same, past the window manager
 
 /// A text as a tool tip that shows it as it stands.
@@ -44,13 +48,27 @@ private:
     QWidget *m_pWindow; // outlives its window handle, which owns this
 };
 
+/// A window manager that still sees to the window's hiding may unmap it after it has been shown without its help.
+void lookAfter(QWidget *window)
+{
+    if (!window->isVisible() || window->isMinimized() || !window->windowHandle())
+        return;
+    if (!window->windowHandle()->isExposed()) {
+        window->hide();
+        window->show();
+    } else if (!QApplication::activeWindow()) {
+        window->activateWindow(); // it had the keyboard when it was told to stay on top
+    }
+}
+
 void showOnTop(QWidget *window)
 {
     window->showNormal();
     if (!window->windowHandle())
         return;
     window->windowHandle()->installEventFilter(new FocusOnPress(window));
-    window->activateWindow();
+    for (const int delay : { kLookAfterMs, kLateLookAfterMs })
+        QTimer::singleShot(delay, window, [window] { lookAfter(window); });
 }
 
 } // namespace
