@@ -9,7 +9,7 @@
 
 namespace {
 
-// Window systems end well before; a bitmap of a larger size would only cost memory.
+// Window systems end well before.
 constexpr int kMaxExtent = 32767;
 constexpr int kMaxPixels = 64 * 1024 * 1024;
 constexpr int kCachedRegions = 256;
@@ -29,18 +29,6 @@ uint qHash(const MaskKey &key, uint seed = 0)
 {
     const uint sizeHash = ::qHash(qMakePair(key.size.width(), key.size.height()), seed);
     return qHashRange(key.radii.cbegin(), key.radii.cend(), sizeHash);
-}
-
-QRegion makeRegion(const MaskKey &key)
-{
-    QBitmap bitmap(key.size);
-    bitmap.fill(Qt::white);
-    QPainter painter(&bitmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.fillPath(RoundedMask::outline(key.size, key.radii), QBrush(Qt::black, Qt::SolidPattern));
-    painter.end();
-    return QRegion(bitmap);
 }
 
 } // namespace
@@ -73,16 +61,31 @@ QRegion RoundedMask::region(const QSize &size, const Radii &radii)
     const MaskKey key{ size, radii };
     if (const QRegion *known = s_Regions.object(key))
         return *known;
-    const QRegion result = makeRegion(key);
+    const QRegion result = painted(size, outline(size, radii));
     s_Regions.insert(key, new QRegion(result));
     return result;
 }
 
+bool RoundedMask::isPossible(const QSize &size)
+{
+    return !size.isEmpty() && size.width() <= kMaxExtent && size.height() <= kMaxExtent
+        && qint64(size.width()) * size.height() <= kMaxPixels;
+}
+
+QRegion RoundedMask::painted(const QSize &size, const QPainterPath &path)
+{
+    QBitmap bitmap(size);
+    bitmap.fill(Qt::white);
+    QPainter painter(&bitmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.fillPath(path, QBrush(Qt::black, Qt::SolidPattern));
+    painter.end();
+    return QRegion(bitmap);
+}
+
 void RoundedMask::apply(QWidget *widget, const Radii &radii)
 {
-    const QSize size = widget->size();
-    if (size.isEmpty() || size.width() > kMaxExtent || size.height() > kMaxExtent
-        || qint64(size.width()) * size.height() > kMaxPixels)
-        return;
-    widget->setMask(region(size, radii));
+    if (isPossible(widget->size()))
+        widget->setMask(region(widget->size(), radii));
 }

@@ -22,6 +22,10 @@ using Radii = std::array<int, 4>; ///< px, by Custom::BorderCorner
 ZANTHIC_TEST_EXPORT QPainterPath outline(const QSize &size, const Radii &radii);
 /// The pixels inside the outline. Regions are shared by size and radii.
 ZANTHIC_TEST_EXPORT QRegion region(const QSize &size, const Radii &radii);
+/// Whether a window can be that large at all. A bitmap of a larger size would only cost memory.
+ZANTHIC_TEST_EXPORT bool isPossible(const QSize &size);
+/// The pixels of a window of \p size that lie inside \p path.
+ZANTHIC_TEST_EXPORT QRegion painted(const QSize &size, const QPainterPath &path);
 /// Gives the widget the shape for its present size. A size beyond what a window can have leaves the shape alone.
 void apply(QWidget *widget, const Radii &radii);
 

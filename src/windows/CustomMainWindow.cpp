@@ -345,6 +345,9 @@ void CustomMainWindow::customEvent(QEvent *event)
     d->m_pTitleBar->cCustomEvent(event);
     d->updateSkinParam();
     d->paintResidual();
+    // Also a sheet of the same text, which may have other pictures now.
+    if (d->m_bEnableScrollBar)
+        d->styleScrollArea();
 }
 
 void CustomMainWindow::mousePressEvent(QMouseEvent *event)

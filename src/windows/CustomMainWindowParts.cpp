@@ -268,7 +268,8 @@ void CustomMainWindowPrivate::resetCentralWidget(QWidget *widget)
 
 void CustomMainWindowPrivate::updateData()
 {
-    if (m_bEnableScrollBar)
+    // Setting a sheet polishes all of the content again.
+    if (m_bEnableScrollBar && m_pScrollArea->styleSheet() != Custom::styleSheet(Custom::SheetTableView))
         styleScrollArea();
     m_pScrollArea->setVisible(m_bEnableScrollBar);
     updateSkinParam();
@@ -352,8 +353,6 @@ void CustomMainWindowPrivate::updateSkinParam()
         setTitleRadius(Custom::RightTop, current.radii[Custom::RightTop].width());
     }
     updateFrameMargins();
-    if (m_bEnableScrollBar)
-        styleScrollArea();
     m_pFrame->update();
 }
 
@@ -373,10 +372,7 @@ void CustomMainWindowPrivate::updateFrameMargins()
 
 void CustomMainWindowPrivate::styleScrollArea()
 {
-    // Setting a sheet polishes all of the content again.
-    const QString sheet = Custom::styleSheet(Custom::SheetTableView);
-    if (m_pScrollArea->styleSheet() != sheet)
-        m_pScrollArea->setStyleSheet(sheet);
+    m_pScrollArea->setStyleSheet(Custom::styleSheet(Custom::SheetTableView));
 }
 
 void CustomMainWindowPrivate::setIsFullScreen(bool on)

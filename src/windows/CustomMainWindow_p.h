@@ -55,6 +55,7 @@ public:
     void updateData();
     void updateSkinParam();
     void setIsFullScreen(bool on);
+    void styleScrollArea();
     void paintResidual();
     void resetMask();
     void retranslate();
@@ -127,7 +128,6 @@ private:
     void addToButtonRow(CustomPushButton *button);
     void updateFrameMargins();
     void setTitleRadius(Custom::BorderCorner corner, int radius);
-    void styleScrollArea();
     Border border() const;
     QString text(const char *key) const;
     int number(const char *key) const;

@@ -51,7 +51,8 @@ private:
 /// A window manager that still sees to the window's hiding may unmap it after it has been shown without its help.
 void lookAfter(QWidget *window)
 {
-    if (!window->isVisible() || window->isMinimized() || !window->windowHandle())
+    const bool isOnTop = window->windowFlags().testFlag(Qt::BypassWindowManagerHint);
+    if (!isOnTop || !window->isVisible() || window->isMinimized() || !window->windowHandle())
         return;
     if (!window->windowHandle()->isExposed()) {
         window->hide();

@@ -1,9 +1,9 @@
 #include "windows/WindowGeometry_p.h"
 
+#include "render/RoundedMask_p.h"
+
 #include <Zanthic/Custom.h>
 
-#include <QtGui/QBitmap>
-#include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtWidgets/QWidget>
 
@@ -18,9 +18,6 @@ using Window = CustomMainWindow;
 constexpr int Band_RightBottom = 9;
 constexpr int Band_LeftTop = 10;
 
-// Window systems end well before; a bitmap of a larger size would only cost memory.
-constexpr int kMaxExtent = 32767;
-constexpr int kMaxPixels = 64 * 1024 * 1024;
 constexpr int Corner_Margin = 4;
 constexpr qreal kFarAway = 1 << 24;
 
@@ -67,7 +64,7 @@ QSize cornersSize(const WindowGeometry::Widths &borders, const WindowGeometry::R
     int corner = 0;
     for (const QSize &radius : radii)
         corner = qMax(corner, qMax(radius.width(), radius.height()));
-    const int side = 2 * (qBound(0, corner, kMaxExtent) + qBound(0, border, kMaxExtent) + Corner_Margin);
+    const int side = 2 * (qBound(0, corner, QWIDGETSIZE_MAX) + qBound(0, border, QWIDGETSIZE_MAX) + Corner_Margin);
     return QSize(side, side);
 }
 
@@ -160,21 +157,12 @@ QRect WindowGeometry::residual(const QRect &titleBar, int frameWidth)
 
 QRegion WindowGeometry::paintedMask(const QSize &size, const Widths &borders, const Radii &radii)
 {
-    QBitmap bitmap(size);
-    bitmap.fill(Qt::white);
-    QPainter painter(&bitmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.fillPath(Custom::cBorderClip(QRect(QPoint(0, 0), size), borders.data(), radii.data()),
-        QBrush(Qt::black, Qt::SolidPattern));
-    painter.end();
-    return QRegion(bitmap);
+    return RoundedMask::painted(size, Custom::cBorderClip(QRect(QPoint(0, 0), size), borders.data(), radii.data()));
 }
 
 QRegion WindowGeometry::mask(const QSize &size, const Widths &borders, const Radii &radii)
 {
-    if (size.isEmpty() || size.width() > kMaxExtent || size.height() > kMaxExtent
-        || qint64(size.width()) * size.height() > kMaxPixels)
+    if (!RoundedMask::isPossible(size))
         return QRegion();
     // Only the corners are curved: the shape of a small window is stretched in the middle.
     const QSize least = cornersSize(borders, radii);

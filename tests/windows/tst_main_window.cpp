@@ -130,6 +130,11 @@ void MainWindowTest::buttonLooks()
         QCOMPARE(cancel->cAttributeValue(QStringLiteral("BackgroundColor"), Custom::ItemStatus(status)),
             key + endings.at(status));
 
+    plain.cAddCustomButtons({ QStringLiteral("A"), QStringLiteral("B") });
+    plain.show();
+    QVERIFY(!plain.cButton(1)->cAttributeValue(QStringLiteral("BackgroundColor")).contains(key)); // only on Cancel
+    plain.hide();
+
     addStyle("CustomMainWindow",
         QStringLiteral("TitleHeight=45 ButtonMainSelector=Main ButtonSubSelector=Sub ButtonMinWidth=333 "
                        "ButtonMinHieght=99 ButtonBarTopMargin=7 ButtonBarBottomMargin=9 ButtonBarSplitLine=1 "
@@ -266,12 +271,27 @@ void MainWindowTest::centralWidget()
     QCOMPARE(of(window)->m_pContentWidget->layout()->indexOf(second), 0);
     QCOMPARE(of(window)->m_pContentWidget->layout()->count(), 4);
 
+    const QString sheet = scratchFile("QScrollArea { margin: 0px }");
+    addDocument("<Class Name='A'><QSS><CustomTableView>" + sheet.toUtf8() + "</CustomTableView></QSS></Class>");
     Window scrolling;
     scrolling.cSetEnableScrollBar(true, QSize(120, 80));
     scrolling.cSetCentralWidget(new QWidget);
     scrolling.show();
     QCOMPARE(of(scrolling)->m_pScrollArea->size(), QSize(120, 80));
     QVERIFY(of(scrolling)->m_pScrollArea->isVisible());
+    // A sheet of the same text may name pictures that have changed.
+    struct : QObject
+    {
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            polished += event->type() == QEvent::StyleChange ? 1 : 0;
+            return false;
+        }
+        int polished = 0;
+    } watch;
+    of(scrolling)->m_pScrollArea->installEventFilter(&watch);
+    Custom::changeSkin();
+    QVERIFY(watch.polished > 0);
 }
 
 void MainWindowTest::execAndItsResult()

@@ -1,3 +1,4 @@
+#include "controls/CustomPushButton_p.h"
 #include "support/StyleTest.h"
 #include "windows/CustomTitleBar_p.h"
 
@@ -104,6 +105,7 @@ void TitleBarTest::startsWithItsParts()
     for (int i = 0; i < 4; ++i) {
         const auto *button = host.bar->findChild<CustomPushButton *>(names.at(i));
         QCOMPARE(button->cStyleSelector(), selectors.at(i));
+        QCOMPARE(CustomPushButtonPrivate::get(button)->controlIndex < 0, i == 3); // the last answers quick clicks
     }
     host.bar->cSetTitleControls(Bar::TitleControls(16));
     QVERIFY(!host.d->m_pStayOnTopButton->isHidden() && host.d->m_pIconLabel->isHidden());
