@@ -7,6 +7,10 @@
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/Custom.h>
 #include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomDotSelector.h>
+#include <Zanthic/CustomDotSlider.h>
+#include <Zanthic/CustomDrawSlider.h>
+#include <Zanthic/CustomDynamicWidget.h>
 #include <Zanthic/CustomFolderSelectWidget.h>
 #include <Zanthic/CustomFrame.h>
 #include <Zanthic/CustomGroupBox.h>
@@ -17,12 +21,15 @@
 #include <Zanthic/CustomMenu.h>
 #include <Zanthic/CustomMessageBox.h>
 #include <Zanthic/CustomObject.h>
+#include <Zanthic/CustomProcessSlider.h>
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomQssHelper.h>
 #include <Zanthic/CustomRadioButton.h>
 #include <Zanthic/CustomSelectWidget.h>
+#include <Zanthic/CustomSwitchButton.h>
 #include <Zanthic/CustomTextEdit.h>
 #include <Zanthic/CustomTitleBar.h>
 #include <Zanthic/CustomToolTip.h>
+#include <Zanthic/CustomTwoHandleSlider.h>
 #include <Zanthic/CustomWidget.h>
 #include <Zanthic/HotKeyEvent.h>
