@@ -138,6 +138,8 @@ void CustomObject::cDrawWidget(
         cDrawPushButton(type, painter, rect, option, d->widget);
         break;
     case Custom::WidgetComboBox:
+        cDrawComboBox(type, painter, rect, option, d->widget);
+        break;
     case Custom::WidgetDrawSlider:
     case Custom::WidgetDotSlider:
     case Custom::WidgetTwoHandleSlider:
