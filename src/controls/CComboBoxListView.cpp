@@ -18,13 +18,7 @@ void CComboBoxListView::setModel(QAbstractItemModel *model)
 
 QStyleOptionViewItem CComboBoxListView::viewOptions() const
 {
-    QStyleOptionViewItem option = QListWidget::viewOptions();
-    option.showDecorationSelected = true;
-    if (m_pComboBox) {
-        option.font = m_pComboBox->font();
-        option.fontMetrics = QFontMetrics(option.font);
-    }
-    return option;
+    return CustomComboBoxPrivate::rowOption(QListWidget::viewOptions(), m_pComboBox);
 }
 
 void CComboBoxListView::resizeEvent(QResizeEvent *event)
@@ -42,14 +36,14 @@ void CComboBoxListView::mouseReleaseEvent(QMouseEvent *event)
     const QPointer<CustomCheckBox> box = m_pClicked;
     m_pClicked.clear();
     if (box)
-        box->toggle(); // whoever hears of it may delete the list
+        toggle(box);
 }
 
 void CComboBoxListView::keyPressEvent(QKeyEvent *event)
 {
     auto *box = event->key() == Qt::Key_Space ? qobject_cast<CustomCheckBox *>(itemWidget(currentItem())) : nullptr;
     if (box)
-        box->toggle();
+        toggle(box);
     else
         QListWidget::keyPressEvent(event);
 }
@@ -59,6 +53,6 @@ void CComboBoxListView::toggle(CustomCheckBox *box)
     // The base class goes on with the list after it has told of a click.
     if (m_bReleasing)
         m_pClicked = box;
-    else
-        box->toggle();
+    else if (m_pComboBox)
+        CustomComboBoxPrivate::get(m_pComboBox)->toggle(box);
 }

@@ -16,6 +16,8 @@
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QStylePainter>
 
+#include <utility>
+
 namespace {
 
 constexpr int kListExtraWidth = 24; // over the combo box
@@ -38,6 +40,23 @@ QString matchComboSelector(CustomComboBox::StyleSelector selector)
 }
 
 } // namespace
+
+QStyleOptionViewItem ComboBoxModelView::viewOptions() const
+{
+    return CustomComboBoxPrivate::rowOption(QListView::viewOptions(), m_pComboBox);
+}
+
+QStyleOptionViewItem CustomComboBoxPrivate::rowOption(
+    const QStyleOptionViewItem &option, const CustomComboBox *comboBox)
+{
+    QStyleOptionViewItem row = option;
+    row.showDecorationSelected = true;
+    if (comboBox) {
+        row.font = comboBox->font();
+        row.fontMetrics = QFontMetrics(row.font);
+    }
+    return row;
+}
 
 void CustomComboBoxPrivate::createView()
 {
@@ -63,7 +82,7 @@ void CustomComboBoxPrivate::replaceView(CComboBoxListView *view)
 {
     if (themedView != view)
         return;
-    auto *plain = new QListView(q);
+    auto *plain = new ComboBoxModelView(q);
     themedView = plain;
     setSheet();
     plain->setItemDelegate(new CComboBoxListDelegate(q, plain));
@@ -105,10 +124,27 @@ void CustomComboBoxPrivate::addCheckItem(CComboBoxListView *view, int flag, cons
     connectBox(box);
 }
 
-void CustomComboBoxPrivate::connectBox(QWidget *box) const
+void CustomComboBoxPrivate::connectBox(const CustomCheckBox *box) const
 {
-    QObject::connect(
-        static_cast<CustomCheckBox *>(box), &QCheckBox::stateChanged, q, &CustomComboBox::onMultiCheckChanged);
+    QObject::connect(box, &QCheckBox::stateChanged, q, &CustomComboBox::onMultiCheckChanged);
+}
+
+void CustomComboBoxPrivate::toggle(CustomCheckBox *box)
+{
+    // A box that is toggled by code goes on with itself after it has told of its state.
+    isToggling = true;
+    box->toggle();
+    isToggling = false;
+    if (std::exchange(valueChanged, false))
+        tellOfValue();
+}
+
+void CustomComboBoxPrivate::tellOfValue()
+{
+    const QPointer<CustomComboBox> self(q);
+    Q_EMIT q->sigMultiValueChanged();
+    if (self)
+        self->update();
 }
 
 bool CustomComboBoxPrivate::hasCustomPopup() const
@@ -135,15 +171,28 @@ void CustomComboBoxPrivate::showCustomPopup()
     popupRunning = true;
     do {
         popupAgain = false;
-        popupWindow->hide();
-        popupWindow->setFixedSize(popupWidget->size());
-        popupWindow->move(q->mapToGlobal(QPoint(0, q->height() - 1)) + QPoint(0, kPopupDistance));
-        popupWindow->cPopup();
+        runPopup();
         if (!self)
             return;
     } while (popupAgain && hasCustomPopup());
     popupRunning = false;
     dropPressedLook();
+}
+
+void CustomComboBoxPrivate::runPopup()
+{
+    const QPointer<CustomComboBox> self(q);
+    popupWindow->hide();
+    if (!self || !hasCustomPopup())
+        return;
+    // The widget's size, unless that is only what the window has left for it, which would shrink with each time.
+    if (popupWidget->size() != contentSize)
+        popupSize = popupWidget->size();
+    popupWindow->setFixedSize(popupSize);
+    popupWindow->move(q->mapToGlobal(QPoint(0, q->height() - 1)) + QPoint(0, kPopupDistance));
+    popupWindow->cPopup();
+    if (self)
+        contentSize = popupWidget ? popupWidget->size() : QSize();
 }
 
 void CustomComboBoxPrivate::dropPressedLook() const
@@ -276,6 +325,8 @@ void CustomComboBox::cSetCustomPopupWidget(QWidget *widget)
         if (holder == widget)
             return;
     }
+    if (widget != d->popupWidget)
+        d->contentSize = QSize();
     d->popupWidget = widget;
     if (!widget)
         return;
@@ -360,10 +411,10 @@ void CustomComboBox::onMultiCheckChanged(int state)
         return;
     const int flag = box->cUserData().toInt();
     d->multiValue = box->isChecked() ? d->multiValue | flag : d->multiValue & ~flag;
-    const QPointer<CustomComboBox> self(this);
-    Q_EMIT sigMultiValueChanged();
-    if (self)
-        update();
+    if (d->isToggling)
+        d->valueChanged = true;
+    else
+        d->tellOfValue();
 }
 
 void CustomComboBox::onButtonClicked()
@@ -390,10 +441,8 @@ void CustomComboBox::mousePressEvent(QMouseEvent *event)
     d->isPressing = true;
     QComboBox::mousePressEvent(event);
     d->isPressing = false;
-    if (d->popupWanted) {
-        d->popupWanted = false;
+    if (std::exchange(d->popupWanted, false))
         showPopup();
-    }
 }
 
 void CustomComboBox::wheelEvent(QWheelEvent *event)

@@ -6,7 +6,23 @@
 
 #include <QtCore/QPointer>
 
+#include <QtWidgets/QListView>
+
 class CComboBoxListView;
+class CustomCheckBox;
+
+/// The list of a model that the application has set.
+class ComboBoxModelView : public QListView
+{
+public:
+    explicit ComboBoxModelView(CustomComboBox *comboBox) : QListView(comboBox), m_pComboBox(comboBox) { }
+
+protected:
+    QStyleOptionViewItem viewOptions() const override;
+
+private:
+    QPointer<CustomComboBox> m_pComboBox;
+};
 
 class CustomComboBoxPrivate
 {
@@ -14,6 +30,9 @@ public:
     CustomComboBoxPrivate(CustomComboBox *owner, bool multi) : isMulti(multi), q(owner) { }
 
     static CustomComboBoxPrivate *get(const CustomComboBox *comboBox) { return comboBox->d.get(); }
+
+    /// \p option for a row of the list of \p comboBox, which may be null.
+    static QStyleOptionViewItem rowOption(const QStyleOptionViewItem &option, const CustomComboBox *comboBox);
 
     void createView();
     /// The list that the constructor made, as long as nobody has set another view.
@@ -23,11 +42,15 @@ public:
 
     QString multiText() const;
     void addCheckItem(CComboBoxListView *view, int flag, const QString &label);
-    void connectBox(QWidget *box) const;
+    void connectBox(const CustomCheckBox *box) const;
+    /// As by the user. Whoever hears of it may delete the combo box.
+    void toggle(CustomCheckBox *box);
+    void tellOfValue();
 
     bool hasCustomPopup() const;
     void createPopupWindow();
     void showCustomPopup();
+    void runPopup();
     void dropPressedLook() const;
     void placeList();
     void measureTexts();
@@ -40,6 +63,10 @@ public:
     QPointer<QWidget> popupWidget; ///< the custom popup
 
     QPointer<QAbstractItemView> themedView; ///< the one that has the theme's sheet
+    QSize popupSize; ///< that of the popup window when it was open last
+    QSize contentSize; ///< what its margins left for the widget then
+    bool isToggling = false; ///< toggle() runs
+    bool valueChanged = false; ///< meanwhile
     bool isPressing = false; ///< the base class handles a press
     bool popupWanted = false; ///< by that press
     bool popupRunning = false; ///< showCustomPopup() runs
