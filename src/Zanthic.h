@@ -7,6 +7,7 @@
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/Custom.h>
 #include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomDoubleSpinBox.h>
 #include <Zanthic/CustomFolderSelectWidget.h>
 #include <Zanthic/CustomFrame.h>
 #include <Zanthic/CustomGroupBox.h>
@@ -21,6 +22,9 @@
 #include <Zanthic/CustomQssHelper.h>
 #include <Zanthic/CustomRadioButton.h>
 #include <Zanthic/CustomSelectWidget.h>
+#include <Zanthic/CustomSlider.h>
+#include <Zanthic/CustomSpinBox.h>
+#include <Zanthic/CustomSpinBox64.h>
 #include <Zanthic/CustomTextEdit.h>
 #include <Zanthic/CustomTitleBar.h>
 #include <Zanthic/CustomToolTip.h>
