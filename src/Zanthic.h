@@ -7,7 +7,11 @@
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/Custom.h>
 #include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomDotSelector.h>
+#include <Zanthic/CustomDotSlider.h>
 #include <Zanthic/CustomDoubleSpinBox.h>
+#include <Zanthic/CustomDrawSlider.h>
+#include <Zanthic/CustomDynamicWidget.h>
 #include <Zanthic/CustomFolderSelectWidget.h>
 #include <Zanthic/CustomFrame.h>
 #include <Zanthic/CustomGroupBox.h>
@@ -18,6 +22,7 @@
 #include <Zanthic/CustomMenu.h>
 #include <Zanthic/CustomMessageBox.h>
 #include <Zanthic/CustomObject.h>
+#include <Zanthic/CustomProcessSlider.h>
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomQssHelper.h>
 #include <Zanthic/CustomRadioButton.h>
@@ -25,8 +30,10 @@
 #include <Zanthic/CustomSlider.h>
 #include <Zanthic/CustomSpinBox.h>
 #include <Zanthic/CustomSpinBox64.h>
+#include <Zanthic/CustomSwitchButton.h>
 #include <Zanthic/CustomTextEdit.h>
 #include <Zanthic/CustomTitleBar.h>
 #include <Zanthic/CustomToolTip.h>
+#include <Zanthic/CustomTwoHandleSlider.h>
 #include <Zanthic/CustomWidget.h>
 #include <Zanthic/HotKeyEvent.h>

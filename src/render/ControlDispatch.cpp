@@ -137,12 +137,14 @@ void CustomObject::cDrawWidget(
     case Custom::WidgetPushButton:
         cDrawPushButton(type, painter, rect, option, d->widget);
         break;
-    case Custom::WidgetComboBox:
     case Custom::WidgetDrawSlider:
     case Custom::WidgetDotSlider:
     case Custom::WidgetTwoHandleSlider:
     case Custom::WidgetProcessSlider:
-        // These have no painter of their own in this version and are plain boxes.
+        cDrawSlider(type, painter, rect, option, d->widget);
+        break;
+    case Custom::WidgetComboBox:
+        // This has no painter of its own in this version and is a plain box.
     default:
         cDrawBackground(painter, rect, Custom::Normal, {});
         cDrawBorder(painter, rect, Custom::Normal, {});
