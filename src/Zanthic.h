@@ -28,6 +28,7 @@
 #include <Zanthic/CustomRadioButton.h>
 #include <Zanthic/CustomSelectWidget.h>
 #include <Zanthic/CustomSlider.h>
+#include <Zanthic/CustomSliderSpinBox.h>
 #include <Zanthic/CustomSpinBox.h>
 #include <Zanthic/CustomSpinBox64.h>
 #include <Zanthic/CustomSwitchButton.h>
