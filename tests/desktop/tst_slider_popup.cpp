@@ -18,10 +18,10 @@ public:
         auto *content = new QWidget;
         cSetCentralWidget(content);
         int y = 10;
-        for (QWidget *widget : QList<QWidget *>{ field, box, spinBox, button }) {
+        for (QWidget *widget : QWidgetList{ field, box, spinBox, button }) {
             widget->setParent(content);
             widget->setGeometry(20, y, 200, 32);
-            y += 80;
+            y += 60;
         }
         box->cSetRange(0, 100);
         spinBox->setRange(0, 100);
@@ -35,6 +35,7 @@ public:
         record(box->getSpinBox(), QStringLiteral("1"));
         record(spinBox, QStringLiteral("2"));
     }
+    ~Form() override { hide(); }
     QPoint belowBox() const { return box->mapToGlobal(QPoint(0, box->height() + 3)); }
 
     QLineEdit *field = new QLineEdit;
@@ -82,10 +83,10 @@ void SliderPopupTest::popupFollowsAndCloses()
 {
     Form form;
     QVERIFY(form.settles());
-    for (QWidget *elsewhere : { static_cast<QWidget *>(form.field), static_cast<QWidget *>(form.button) }) {
+    for (QWidget *elsewhere : QWidgetList{ form.field, form.button, form.cTitleBar() }) {
         click(middle(form.box));
         QTRY_VERIFY(form.popup->isVisible());
-        drag(middle(form.cTitleBar()), QPoint(37, 21));
+        form.move(form.pos() + QPoint(37, 21));
         QTRY_COMPARE(placeOf(*form.popup).topLeft(), form.belowBox());
         click(form.popup->mapToGlobal(QPoint(2, 2)));
         QVERIFY(form.popup->isVisible());
@@ -98,14 +99,13 @@ void SliderPopupTest::signalsOfRealFocusAndClicks()
 {
     Form form;
     QVERIFY(form.settles());
-    const auto told = [&form] { return std::exchange(form.told, QString()); };
     click(form.box->mapToGlobal(QPoint(190, 10))); // the up arrow
-    QTRY_COMPARE(told(), QStringLiteral("1in 1save "));
+    QTRY_COMPARE(form.told, QStringLiteral("1in 1save "));
     QCOMPARE(form.box->cGetValue(), 1);
     click(form.spinBox->mapToGlobal(QPoint(190, 10)));
-    QTRY_COMPARE(told(), QStringLiteral("1out 2in 2save "));
+    QTRY_COMPARE(form.told, QStringLiteral("1in 1save 1out 2in 2save "));
     keys("9 Tab");
-    QTRY_COMPARE(told(), QStringLiteral("2out "));
+    QTRY_COMPARE(form.told, QStringLiteral("1in 1save 1out 2in 2save 2out "));
 }
 
 void SliderPopupTest::popupGoesWithItsWindow()
@@ -120,7 +120,13 @@ void SliderPopupTest::popupGoesWithItsWindow()
     QVERIFY(QTest::qWaitForWindowActive(form.get()));
     click(middle(form->box));
     QTRY_VERIFY(placeOf(*form->popup).isValid());
-    tool(QStringLiteral("key --window %1 alt+F4").arg(form->popup->winId()));
+    click(middle(form->popup));
+    QTRY_VERIFY(form->popup->isActiveWindow());
+    keys("alt+F4");
+    QVERIFY(QTest::qWaitForWindowActive(form.get()));
+    QVERIFY(!form->popup->isVisible() && !form->box->getSpinBox()->hasFocus());
+    click(middle(form->box));
+    QTRY_VERIFY(placeOf(*form->popup).isValid());
     form.reset();
 }
 
