@@ -101,6 +101,8 @@ std::vector<FigureReporter::Figure> FigureReporter::figures() const
             "a step of a live resize / that of the dialog; at most 1" },
         { "menu_vs_sheet", ratio(nanoseconds("menu/zanthic"), nanoseconds("menu/sheet")),
             "a menu's first paint / under a style sheet; at most 1" },
+        { "spin_switch_1000_vs_plain", ratio(nanoseconds("spin/zanthic/1000"), nanoseconds("spin/plain/1000")),
+            "Custom::changeSkin and the repaint, 1,000 spin boxes / such as set the sheet plainly; about 1" },
         { "start_ms", nanoseconds("start/theme") / 1e6, "taking up the default theme" },
         { "read_ns", nanoseconds("read/own_key"), "one attribute by its own key" },
     };

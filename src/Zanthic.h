@@ -13,6 +13,7 @@
 #include <Zanthic/CustomComboBox.h>
 #include <Zanthic/CustomDotSelector.h>
 #include <Zanthic/CustomDotSlider.h>
+#include <Zanthic/CustomDoubleSpinBox.h>
 #include <Zanthic/CustomDrawSlider.h>
 #include <Zanthic/CustomDynamicWidget.h>
 #include <Zanthic/CustomFolderSelectWidget.h>
@@ -30,6 +31,10 @@
 #include <Zanthic/CustomQssHelper.h>
 #include <Zanthic/CustomRadioButton.h>
 #include <Zanthic/CustomSelectWidget.h>
+#include <Zanthic/CustomSlider.h>
+#include <Zanthic/CustomSliderSpinBox.h>
+#include <Zanthic/CustomSpinBox.h>
+#include <Zanthic/CustomSpinBox64.h>
 #include <Zanthic/CustomSwitchButton.h>
 #include <Zanthic/CustomTextEdit.h>
 #include <Zanthic/CustomTitleBar.h>
