@@ -1,13 +1,18 @@
 #include "PageRegistry.h"
 
+#include "AnimationPage.h"
 #include "BoxesPage.h"
 #include "ButtonsPage.h"
 #include "ChecksPage.h"
+#include "CombosPage.h"
 #include "DialogsPage.h"
 #include "EnginePage.h"
 #include "FieldsPage.h"
 #include "LabelsPage.h"
 #include "MenusPage.h"
+#include "SlidersPage.h"
+#include "SpinBoxesPage.h"
+#include "SwitchesPage.h"
 #include "ToolTipsPage.h"
 #include "WindowsPage.h"
 
@@ -41,6 +46,21 @@ const QVector<PageEntry> &pageEntries()
             QT_TRANSLATE_NOOP(
                 "PageRegistry", "Line edits in three looks, fields that ask for a value, and texts of several lines."),
             create<FieldsPage> },
+        { QStringLiteral("combos"), QT_TRANSLATE_NOOP("PageRegistry", "Combo boxes"),
+            QT_TRANSLATE_NOOP("PageRegistry", "One value or several from a list, and any widget in its place."),
+            create<CombosPage> },
+        { QStringLiteral("spinboxes"), QT_TRANSLATE_NOOP("PageRegistry", "Spin boxes"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Whole numbers up to 64 bits, with a slider or without."),
+            create<SpinBoxesPage> },
+        { QStringLiteral("sliders"), QT_TRANSLATE_NOOP("PageRegistry", "Sliders"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Values, levels and ranges, with labels, tips and stages."),
+            create<SlidersPage> },
+        { QStringLiteral("switches"), QT_TRANSLATE_NOOP("PageRegistry", "Switches and dots"),
+            QT_TRANSLATE_NOOP("PageRegistry", "One of a few choices that are all in view, and rows of dots for steps."),
+            create<SwitchesPage> },
+        { QStringLiteral("animation"), QT_TRANSLATE_NOOP("PageRegistry", "Animation"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Frames from a strip or a list of pictures, played once or for good."),
+            create<AnimationPage> },
         { QStringLiteral("menus"), QT_TRANSLATE_NOOP("PageRegistry", "Menus"),
             QT_TRANSLATE_NOOP("PageRegistry", "Everything that can stand in a menu, and what pops it up."),
             create<MenusPage> },

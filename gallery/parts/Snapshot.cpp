@@ -84,6 +84,19 @@ QPixmap Snapshot::ofWindow(QWidget *window, int radius)
     return picture;
 }
 
+QPixmap Snapshot::below(const QPixmap &control, const QPixmap &popup, int distance)
+{
+    const qreal scale = control.devicePixelRatio();
+    const int top = control.height() + qRound(distance * scale);
+    QPixmap picture(qMax(control.width(), popup.width()), top + popup.height());
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.drawPixmap(0, 0, control);
+    painter.drawPixmap(QPointF(0, top / scale), popup);
+    return picture;
+}
+
 QPixmap Snapshot::rounded(const QPixmap &picture, int radius)
 {
     QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);

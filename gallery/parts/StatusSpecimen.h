@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomComboBox.h>
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomRadioButton.h>
 
@@ -19,8 +20,8 @@ inline QStyle::State stateForStatus(QStyle::State state, Custom::ItemStatus stat
     return state;
 }
 
-/// A button that paints itself in one status for good and takes no input, for pictures of all statuses side by side.
-template <class Control, Custom::CustomWidgetType Type>
+/// A control that paints itself in one status for good and takes no input, for pictures of all statuses side by side.
+template <class Control, Custom::CustomWidgetType Type, class Option = QStyleOptionButton>
 class StatusSpecimen : public Control
 {
 public:
@@ -35,7 +36,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        QStyleOptionButton option;
+        Option option;
         this->initStyleOption(&option);
         option.state = stateForStatus(option.state, m_status);
         QPainter painter(this);
@@ -49,3 +50,4 @@ private:
 using PushButtonSpecimen = StatusSpecimen<CustomPushButton, Custom::WidgetPushButton>;
 using CheckBoxSpecimen = StatusSpecimen<CustomCheckBox, Custom::WidgetCheckBox>;
 using RadioButtonSpecimen = StatusSpecimen<CustomRadioButton, Custom::WidgetRadioButton>;
+using ComboBoxSpecimen = StatusSpecimen<CustomComboBox, Custom::WidgetComboBox, QStyleOptionComboBox>;
