@@ -82,6 +82,8 @@ std::vector<FigureReporter::Figure> FigureReporter::figures() const
         { "paint_checkbox_vs_image_sheet",
             ratio(nanoseconds("paint/checkbox/zanthic"), nanoseconds("paint/checkbox/sheet_of_images")),
             "the same, against a sheet that draws ready images only" },
+        { "paint_combo_box_vs_sheet", versusSheet("paint/combo_box"),
+            "a combo box's paint / under a style sheet; at most 0.75" },
         { "paint_slider_vs_sheet", versusSheet("paint/slider"),
             "a slider's paint / under a style sheet; at most 0.75" },
         { "paint_dot_slider_vs_sheet", versusSheet("paint/dot_slider"),

@@ -1,8 +1,10 @@
-// One paint of a slider of each kind, and a drag; beside what Qt offers under a style sheet for the same look: a slider
-// under the theme's own sheet, one that draws itself with two handles, and labels for texts and bubbles.
+// One paint of a combo box and of a slider of each kind, and a drag; beside what Qt offers under a style sheet for the
+// same look: a slider under the theme's own sheet, one that draws itself with two handles, and labels for texts and
+// bubbles.
 
 #include "Fixtures.h"
 
+#include <Zanthic/CustomComboBox.h>
 #include <Zanthic/CustomDotSlider.h>
 #include <Zanthic/CustomProcessSlider.h>
 #include <Zanthic/CustomTwoHandleSlider.h>
@@ -19,6 +21,7 @@
 namespace {
 
 constexpr int kDragSteps = 1000;
+constexpr QSize kComboSize(160, 32);
 constexpr QSize kSize(240, 60);
 constexpr QSize kDragSize(1008, 60); // a pixel a step
 
@@ -131,6 +134,28 @@ void paintProcessSheet(benchmark::State &state)
     measurePaint(state, &widget);
 }
 
+template <typename ComboBox>
+void measureCombo(benchmark::State &state)
+{
+    ComboBox comboBox;
+    comboBox.addItems({ QStringLiteral("Combo box"), QStringLiteral("Another") });
+    prepare(&comboBox, kComboSize);
+    measurePaint(state, &comboBox);
+}
+
+void paintCombo(benchmark::State &state)
+{
+    Fixtures::useTheme();
+    measureCombo<CustomComboBox>(state);
+}
+
+void paintComboSheet(benchmark::State &state)
+{
+    qApp->setStyleSheet(Fixtures::equivalentSheet(false));
+    measureCombo<QComboBox>(state);
+    qApp->setStyleSheet(QString());
+}
+
 void mouse(QWidget *widget, QEvent::Type type, int x)
 {
     const bool isMove = type == QEvent::MouseMove;
@@ -182,6 +207,8 @@ void dragSheet(benchmark::State &state)
 
 } // namespace
 
+BENCHMARK(paintCombo)->Name("paint/combo_box/zanthic");
+BENCHMARK(paintComboSheet)->Name("paint/combo_box/sheet");
 BENCHMARK(paint<CustomDrawSlider>)->Name("paint/slider/zanthic");
 BENCHMARK(paint<CustomDotSlider>)->Name("paint/dot_slider/zanthic");
 BENCHMARK(paint<CustomTwoHandleSlider>)->Name("paint/two_handle_slider/zanthic");
