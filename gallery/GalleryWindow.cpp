@@ -124,7 +124,7 @@ QWidget *GalleryWindow::createSidebar()
     sidebar->setFixedWidth(SidebarWidth);
     auto *layout = new QVBoxLayout(sidebar);
     layout->setContentsMargins(Gap * 2, Margin, Gap * 2, Margin);
-    layout->setSpacing(4);
+    layout->setSpacing(2);
 
     auto *product = new TextLabel(TextLabel::Title, sidebar);
     product->setText(QStringLiteral("Zanthic"));

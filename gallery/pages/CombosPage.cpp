@@ -22,8 +22,6 @@ constexpr int Wide_Width = 200;
 constexpr int List_Extra = 24; // by which the library makes the list wider than the box
 constexpr int MostCopies = 99;
 constexpr int SomeDays = 0b0101;
-constexpr int List_Distance = 6; // px, below the box
-constexpr int Popup_Distance = 4; // px, of a custom one
 
 const char *const cities[] = { QT_TRANSLATE_NOOP("CombosPage", "Amsterdam"), QT_TRANSLATE_NOOP("CombosPage", "Beijing"),
     QT_TRANSLATE_NOOP("CombosPage", "Cairo"), QT_TRANSLATE_NOOP("CombosPage", "Dakar") };
@@ -53,20 +51,18 @@ void fillWithDays(CustomComboBox *combo)
     combo->cAddButtonItem(CombosPage::tr("Manage days"));
 }
 
-/// The combo box with its list open.
-QPixmap pictureOf(CustomComboBox *combo)
+/// The list of \p combo as it comes up.
+QPixmap pictureOfList(CustomComboBox *combo)
 {
-    combo->resize(Wide_Width, combo->sizeHint().height());
-    const QPixmap box = combo->grab();
     QWidget *list = combo->viewParent();
     QAbstractItemView *view = combo->view();
     view->ensurePolished();
     const QMargins margins = list->layout()->contentsMargins() + view->contentsMargins();
-    int height = margins.top() + margins.bottom() + 2 * view->property("frameWidth").toInt();
+    int height = margins.top() + margins.bottom();
     for (int row = 0; row < combo->count(); ++row)
         height += view->sizeHintForRow(row);
     list->resize(Wide_Width + List_Extra, height);
-    return Snapshot::below(box, list->grab(), List_Distance);
+    return list->grab();
 }
 
 } // namespace
@@ -227,27 +223,29 @@ void CombosPage::addPictures()
         CustomComboBox combo;
         fillWithCities(&combo);
         combo.setCurrentIndex(1);
-        return pictureOf(&combo);
+        return pictureOfList(&combo);
     });
     auto *multi = new Snapshot([] {
         CustomComboBox combo(nullptr, CustomComboBox::Default, true);
         combo.cSetMultiCheckValue(SomeDays);
         combo.resize(Wide_Width, combo.height());
         fillWithDays(&combo);
-        return pictureOf(&combo);
+        return pictureOfList(&combo);
     });
     auto *custom = new Snapshot([] {
         CustomComboBox combo;
         auto *form = new Form;
         combo.cSetCustomPopupWidget(form);
-        combo.cSetCustomDisplayText(form->words());
-        combo.resize(Wide_Width, combo.sizeHint().height());
         CustomMainWindow *window = combo.cGetCustomPopupWindows();
         window->setFixedSize(form->sizeHint());
-        return Snapshot::below(combo.grab(), Snapshot::ofWindow(window, 0), Popup_Distance);
+        return Snapshot::ofWindow(window, 0);
     });
-    card->add(row({ captioned(list, QT_TR_NOOP("a list")), captioned(multi, QT_TR_NOOP("check boxes and a button")),
-        captioned(custom, QT_TR_NOOP("a form")) }));
+    const QList<QWidget *> pictures = { captioned(list, QT_TR_NOOP("a list")),
+        captioned(multi, QT_TR_NOOP("check boxes and a button")), captioned(custom, QT_TR_NOOP("a form")) };
+    QBoxLayout *line = row(pictures);
+    for (QWidget *picture : pictures)
+        line->setAlignment(picture, Qt::AlignTop);
+    card->add(line);
 }
 
 void CombosPage::retranslate()

@@ -15,6 +15,7 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QMetaEnum>
+#include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QGridLayout>
 
@@ -23,11 +24,12 @@
 namespace {
 
 constexpr int Box_Width = 144;
-constexpr int Wide_Width = 200; // for 64 bits
+constexpr int Wide_Width = 232; // for 64 bits
 constexpr int Slider_Width = 280;
 constexpr int Maximum = 1000;
 constexpr int Value_Start = 42;
 constexpr int Popup_Distance = 4; // px, below the spin box
+constexpr int Field_Radius = 4;
 
 template <class Box>
 Box *filled(Box *box, int width = Box_Width)
@@ -62,10 +64,19 @@ QPixmap pictureWithPopup()
 {
     const std::unique_ptr<CustomSliderSpinBox> control(newSliderBox(nullptr, CustomSliderSpinBox::SliderPopup));
     control->resize(control->sizeHint());
-    const QPixmap box = control->grab();
+    const QPixmap box = Snapshot::rounded(control->grab(), Field_Radius);
     QWidget *window = control->getSlider()->window();
     window->setFixedSize(Wide_Width, control->getSlider()->height());
-    return Snapshot::below(box, Snapshot::ofWindow(window, 0), Popup_Distance);
+    const QPixmap popup = Snapshot::ofWindow(window, 0);
+    const qreal scale = box.devicePixelRatio();
+    const int top = box.height() + qRound(Popup_Distance * scale);
+    QPixmap picture(box.width(), top + popup.height());
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.drawPixmap(0, 0, box);
+    painter.drawPixmap(QPointF(0, top / scale), popup);
+    return picture;
 }
 
 } // namespace

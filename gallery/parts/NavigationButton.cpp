@@ -6,9 +6,9 @@
 #include <QtWidgets/QStyleOption>
 
 namespace {
-constexpr int Button_Height = 36;
+constexpr int Button_Height = 32;
 constexpr int Text_Indent = 12;
-constexpr QRect MarkerBar(0, 10, 4, 16);
+constexpr QRect MarkerBar(0, 8, 4, 16);
 } // namespace
 
 NavigationButton::NavigationButton(QWidget *parent) : CustomPushButton(parent)

@@ -75,25 +75,13 @@ QPixmap Snapshot::ofWindow(QWidget *window, int radius)
 {
     // Windows finish themselves when they are shown. As a child of what stays hidden, this one doesn't appear.
     QWidget host;
+    QWidget *parent = window->parentWidget();
     const Qt::WindowFlags flags = window->windowFlags();
     window->setParent(&host);
     showAll(window);
     window->resize(window->size().expandedTo(window->minimumSizeHint()));
     const QPixmap picture = rounded(window->grab(), radius);
-    window->setParent(nullptr, flags);
-    return picture;
-}
-
-QPixmap Snapshot::below(const QPixmap &control, const QPixmap &popup, int distance)
-{
-    const qreal scale = control.devicePixelRatio();
-    const int top = control.height() + qRound(distance * scale);
-    QPixmap picture(qMax(control.width(), popup.width()), top + popup.height());
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.drawPixmap(0, 0, control);
-    painter.drawPixmap(QPointF(0, top / scale), popup);
+    window->setParent(parent, flags);
     return picture;
 }
 

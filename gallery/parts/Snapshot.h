@@ -26,8 +26,6 @@ public:
     /// Shows \p window, a child of what stays hidden, and each part of it that hasn't been hidden on purpose: what
     /// would happen to it on a screen.
     static void showAll(QWidget *window);
-    /// \p popup as it hangs \p distance px below \p control.
-    static QPixmap below(const QPixmap &control, const QPixmap &popup, int distance);
     /// \p picture without what lies outside of corners of \p radius px.
     static QPixmap rounded(const QPixmap &picture, int radius);
 

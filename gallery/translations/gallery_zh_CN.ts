@@ -2,6 +2,57 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>AnimationPage</name>
+    <message>
+        <source>Frames</source>
+        <translation>帧</translation>
+    </message>
+    <message>
+        <source>A strip of pictures is cut into frames, side by side or one below the other; or there is a list.</source>
+        <translation>将一条并排或上下排列的长图切成帧，也可以直接给出图片列表。</translation>
+    </message>
+    <message>
+        <source>a horizontal strip, once</source>
+        <translation>横向长图，一次</translation>
+    </message>
+    <message>
+        <source>a vertical strip, once</source>
+        <translation>纵向长图，一次</translation>
+    </message>
+    <message>
+        <source>a list, once</source>
+        <translation>列表，一次</translation>
+    </message>
+    <message>
+        <source>a horizontal strip, again and again</source>
+        <translation>横向长图，循环</translation>
+    </message>
+    <message>
+        <source>a list, again and again</source>
+        <translation>列表，循环</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Stopping keeps the place. An animation that isn&apos;t played again and again tells when it has ended.</source>
+        <translation>停止时保留当前位置。不循环的动画在结束时发出通知。</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Finished: %1</source>
+        <translation>已结束：%1</translation>
+    </message>
+</context>
+<context>
     <name>BoxesPage</name>
     <message>
         <source>Border widths</source>
@@ -256,6 +307,157 @@
     <message>
         <source>Changes by the user: %1</source>
         <translation>用户更改次数：%1</translation>
+    </message>
+</context>
+<context>
+    <name>CombosPage</name>
+    <message>
+        <source>Amsterdam</source>
+        <translation>阿姆斯特丹</translation>
+    </message>
+    <message>
+        <source>Beijing</source>
+        <translation>北京</translation>
+    </message>
+    <message>
+        <source>Cairo</source>
+        <translation>开罗</translation>
+    </message>
+    <message>
+        <source>Dakar</source>
+        <translation>达喀尔</translation>
+    </message>
+    <message>
+        <source>Monday</source>
+        <translation>星期一</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>星期二</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>星期三</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>星期四</translation>
+    </message>
+    <message>
+        <source>Manage days</source>
+        <translation>管理日期</translation>
+    </message>
+    <message>
+        <source>Copies</source>
+        <translation>份数</translation>
+    </message>
+    <message>
+        <source>Print on both sides</source>
+        <translation>双面打印</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>Copies: %1</source>
+        <translation>份数：%1</translation>
+    </message>
+    <message>
+        <source>%1, both sides</source>
+        <translation>%1，双面</translation>
+    </message>
+    <message>
+        <source>Looks and statuses</source>
+        <translation>外观与状态</translation>
+    </message>
+    <message>
+        <source>Each row is a selector of the style document, each column a status of it.</source>
+        <translation>每一行对应样式文档中的一个选择器，每一列对应一种状态。</translation>
+    </message>
+    <message>
+        <source>Texts</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>The wheel over a combo box changes nothing.</source>
+        <translation>在组合框上滚动滚轮不会改变任何内容。</translation>
+    </message>
+    <message>
+        <source>Any city</source>
+        <translation>任意城市</translation>
+    </message>
+    <message>
+        <source>City...</source>
+        <translation>城市...</translation>
+    </message>
+    <message>
+        <source>Chosen: %1</source>
+        <translation>已选择：%1</translation>
+    </message>
+    <message>
+        <source>editable</source>
+        <translation>可编辑</translation>
+    </message>
+    <message>
+        <source>still empty</source>
+        <translation>尚为空</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>禁用</translation>
+    </message>
+    <message>
+        <source>always the same text</source>
+        <translation>固定文本</translation>
+    </message>
+    <message>
+        <source>Several values</source>
+        <translation>多个值</translation>
+    </message>
+    <message>
+        <source>Each item is a flag; together they are the mask. The last row of the list is a button.</source>
+        <translation>每一项是一个标志位，合起来就是掩码。列表的最后一行是按钮。</translation>
+    </message>
+    <message>
+        <source>Mask: %1</source>
+        <translation>掩码：%1</translation>
+    </message>
+    <message>
+        <source>Clicks on the button: %1</source>
+        <translation>按钮点击次数：%1</translation>
+    </message>
+    <message>
+        <source>None of them</source>
+        <translation>全部取消</translation>
+    </message>
+    <message>
+        <source>Any widget in place of the list</source>
+        <translation>以任意控件代替列表</translation>
+    </message>
+    <message>
+        <source>The combo box opens a form, and shows what was entered.</source>
+        <translation>组合框打开一个表单，并显示所填的内容。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>The three popups as they come up.</source>
+        <translation>三种弹出窗口的样子。</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>check boxes and a button</source>
+        <translation>复选框与按钮</translation>
+    </message>
+    <message>
+        <source>a form</source>
+        <translation>表单</translation>
     </message>
 </context>
 <context>
@@ -1073,6 +1275,347 @@ Ctrl+E 启用或禁用</translation>
     <message>
         <source>Tips with a marker, in one line or several.</source>
         <translation>带标记的提示，单行或多行。</translation>
+    </message>
+    <message>
+        <source>Combo boxes</source>
+        <translation>组合框</translation>
+    </message>
+    <message>
+        <source>One value or several from a list, and any widget in its place.</source>
+        <translation>从列表中选择一个或多个值，也可以用任意控件代替列表。</translation>
+    </message>
+    <message>
+        <source>Spin boxes</source>
+        <translation>数字框</translation>
+    </message>
+    <message>
+        <source>Whole numbers up to 64 bits, with a slider or without.</source>
+        <translation>最多 64 位的整数，可带滑块。</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>滑块</translation>
+    </message>
+    <message>
+        <source>Values, levels and ranges, with labels, tips and stages.</source>
+        <translation>数值、级别与范围，带标签、提示和分段刻度。</translation>
+    </message>
+    <message>
+        <source>Switches and dots</source>
+        <translation>分段按钮与圆点</translation>
+    </message>
+    <message>
+        <source>One of a few choices that are all in view, and rows of dots for steps.</source>
+        <translation>从全部可见的几个选项中选择一个，以及表示步骤的圆点行。</translation>
+    </message>
+    <message>
+        <source>Animation</source>
+        <translation>动画</translation>
+    </message>
+    <message>
+        <source>Frames from a strip or a list of pictures, played once or for good.</source>
+        <translation>来自长图或图片列表的帧，播放一次或循环播放。</translation>
+    </message>
+</context>
+<context>
+    <name>SlidersPage</name>
+    <message>
+        <source>Kinds and looks</source>
+        <translation>种类与外观</translation>
+    </message>
+    <message>
+        <source>Each row is a kind, each column a selector of the style document; the last one is disabled.</source>
+        <translation>每一行是一个种类，每一列是样式文档中的一个选择器；最后一列为禁用。</translation>
+    </message>
+    <message>
+        <source>One handle</source>
+        <translation>单手柄</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>级别</translation>
+    </message>
+    <message>
+        <source>Two handles</source>
+        <translation>双手柄</translation>
+    </message>
+    <message>
+        <source>With a marker</source>
+        <translation>带标记</translation>
+    </message>
+    <message>
+        <source>Labels, tips and direction</source>
+        <translation>标签、提示与方向</translation>
+    </message>
+    <message>
+        <source>labels beside</source>
+        <translation>标签在两侧</translation>
+    </message>
+    <message>
+        <source>labels below</source>
+        <translation>标签在下方</translation>
+    </message>
+    <message>
+        <source>a tip</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>the other way round</source>
+        <translation>反向</translation>
+    </message>
+    <message>
+        <source>a marker</source>
+        <translation>标记</translation>
+    </message>
+    <message>
+        <source>without its marker</source>
+        <translation>无标记</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>A large range is staged: a third of the track each up to 5000, to 50000, and to the end.</source>
+        <translation>大范围会分段：到 5000、到 50000 和到末端各占三分之一。</translation>
+    </message>
+    <message>
+        <source>Values: %1, releases: %2</source>
+        <translation>数值：%1，松开：%2</translation>
+    </message>
+    <message>
+        <source>0 to 60000: %1</source>
+        <translation>0 到 60000：%1</translation>
+    </message>
+    <message>
+        <source>in steps of 10: %1</source>
+        <translation>步长为 10：%1</translation>
+    </message>
+    <message>
+        <source>A range</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>The buttons move the handle that was touched last. The handles may cross.</source>
+        <translation>按钮移动最后触碰的手柄。两个手柄可以交叉。</translation>
+    </message>
+    <message>
+        <source>From %1 to %2</source>
+        <translation>从 %1 到 %2</translation>
+    </message>
+    <message>
+        <source>Less</source>
+        <translation>减小</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>增大</translation>
+    </message>
+    <message>
+        <source>Under a style sheet</source>
+        <translation>样式表滑块</translation>
+    </message>
+    <message>
+        <source>CustomSlider is Qt&apos;s own slider: it takes keys and the wheel, and it may stand upright.</source>
+        <translation>CustomSlider 就是 Qt 自带的滑块：它响应按键和滚轮，也可以竖放。</translation>
+    </message>
+    <message>
+        <source>horizontal</source>
+        <translation>水平</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>禁用</translation>
+    </message>
+    <message>
+        <source>vertical</source>
+        <translation>垂直</translation>
+    </message>
+    <message>
+        <source>Quiet</source>
+        <translation>安静</translation>
+    </message>
+    <message>
+        <source>Loud</source>
+        <translation>响亮</translation>
+    </message>
+    <message>
+        <source>Dry</source>
+        <translation>干燥</translation>
+    </message>
+    <message>
+        <source>Moist</source>
+        <translation>湿润</translation>
+    </message>
+    <message>
+        <source>Wet</source>
+        <translation>潮湿</translation>
+    </message>
+    <message>
+        <source>Labels stand beside the groove or below it; a tip above the handle shows its value.</source>
+        <translation>标签位于滑槽两侧或下方；手柄上方的提示显示其数值。</translation>
+    </message>
+</context>
+<context>
+    <name>SpinBoxesPage</name>
+    <message>
+        <source>Looks</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Point at a field or go into it to see its other statuses.</source>
+        <translation>将指针移到输入框上或进入其中，可查看其他状态。</translation>
+    </message>
+    <message>
+        <source>Ranges</source>
+        <translation>范围</translation>
+    </message>
+    <message>
+        <source>The wheel changes no value, it scrolls the page. A box for doubles shows whole numbers.</source>
+        <translation>滚轮不改变数值，而是滚动页面。双精度数字框显示整数。</translation>
+    </message>
+    <message>
+        <source>in steps of 0.5, is %1</source>
+        <translation>步长 0.5，实为 %1</translation>
+    </message>
+    <message>
+        <source>from -50 to 50</source>
+        <translation>从 -50 到 50</translation>
+    </message>
+    <message>
+        <source>near the top of 64 bits</source>
+        <translation>接近 64 位上限</translation>
+    </message>
+    <message>
+        <source>at their bottom</source>
+        <translation>位于其下限</translation>
+    </message>
+    <message>
+        <source>What they tell</source>
+        <translation>发出的信号</translation>
+    </message>
+    <message>
+        <source>The focus comes and goes; the mouse is let go; the value changes. Keys don&apos;t bring SigSaveParam().</source>
+        <translation>获得焦点、失去焦点、松开鼠标、数值改变。按键不会触发 SigSaveParam()。</translation>
+    </message>
+    <message>
+        <source>%1: %2; changes %3, releases %4</source>
+        <translation>%1：%2；更改 %3，松开 %4</translation>
+    </message>
+    <message>
+        <source>With a slider</source>
+        <translation>带滑块</translation>
+    </message>
+    <message>
+        <source>The slider stands beside the field, or below it while the field has the focus.</source>
+        <translation>滑块位于输入框旁边，或在输入框获得焦点时出现在其下方。</translation>
+    </message>
+    <message>
+        <source>Beside</source>
+        <translation>旁边</translation>
+    </message>
+    <message>
+        <source>Zero marked</source>
+        <translation>标出零点</translation>
+    </message>
+    <message>
+        <source>Popup</source>
+        <translation>弹出</translation>
+    </message>
+    <message>
+        <source>the popup while it is open</source>
+        <translation>打开时的弹出窗口</translation>
+    </message>
+</context>
+<context>
+    <name>SwitchesPage</name>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>之前</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>之后</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>周</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>Quarter</source>
+        <translation>季</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Looks</source>
+        <translation>外观</translation>
+    </message>
+    <message>
+        <source>Inner corners are square, so that a row reads as one piece.</source>
+        <translation>内侧的角为直角，使整行看起来是一体的。</translation>
+    </message>
+    <message>
+        <source>Live, to try</source>
+        <translation>可操作</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>选择</translation>
+    </message>
+    <message>
+        <source>A click is told also where the button was checked already. The names can change.</source>
+        <translation>点击已选中的按钮也会发出通知。名称可以更改。</translation>
+    </message>
+    <message>
+        <source>Checked: %1, clicks: %2</source>
+        <translation>选中：%1，点击：%2</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation>当前：%1</translation>
+    </message>
+    <message>
+        <source>Dots</source>
+        <translation>圆点</translation>
+    </message>
+    <message>
+        <source>Click a dot. The line is as long as the room that there is.</source>
+        <translation>请点击圆点。连线会占满可用空间。</translation>
+    </message>
+    <message>
+        <source>Dots of another look</source>
+        <translation>其他外观的圆点</translation>
+    </message>
+    <message>
+        <source>Colours, radii and the line can be set.</source>
+        <translation>颜色、半径和连线均可设置。</translation>
     </message>
 </context>
 <context>
