@@ -176,7 +176,7 @@ void SpinBoxesPage::addSignals()
     card->add(table);
 }
 
-QWidget *SpinBoxesPage::withState(CustomSliderSpinBox *control, const char *caption)
+LiveText *SpinBoxesPage::stateOf(CustomSliderSpinBox *control, const char *caption)
 {
     struct State
     {
@@ -200,7 +200,7 @@ QWidget *SpinBoxesPage::withState(CustomSliderSpinBox *control, const char *capt
     };
     connect(control, &CustomSliderSpinBox::sigValueChanged, words, [count, state] { count(state->values); });
     connect(control, &CustomSliderSpinBox::sigReleaseValueChanged, words, [count, state] { count(state->releases); });
-    return captioned(control, words);
+    return words;
 }
 
 void SpinBoxesPage::addSliders()
@@ -210,8 +210,9 @@ void SpinBoxesPage::addSliders()
     auto *beside = newSliderBox(this, CustomSliderSpinBox::SliderInline);
     auto *marked = newSliderBox(this, CustomSliderSpinBox::SliderInline, -Maximum);
     auto *popup = newSliderBox(this, CustomSliderSpinBox::SliderPopup);
-    card->add(row({ withState(beside, QT_TR_NOOP("Beside")), withState(marked, QT_TR_NOOP("Zero marked")),
-        withState(popup, QT_TR_NOOP("Popup")) }));
+    card->add(row({ captioned(beside, stateOf(beside, QT_TR_NOOP("Beside"))),
+        captioned(marked, stateOf(marked, QT_TR_NOOP("Zero marked"))) }));
+    card->add(row({ popup, stateOf(popup, QT_TR_NOOP("Popup")) }));
     card->add(row({ captioned(new Snapshot(pictureWithPopup), QT_TR_NOOP("the popup while it is open")) }));
 }
 

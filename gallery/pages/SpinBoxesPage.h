@@ -28,7 +28,8 @@ private:
     void addCounts(QGridLayout *table, Control *control, Signal valueChanged);
     /// A number that goes up with each call of what is returned.
     std::function<void()> counter(QGridLayout *table, int line, int column);
-    QWidget *withState(CustomSliderSpinBox *control, const char *caption);
+    /// A text with the value of \p control and with the counts of its signals.
+    LiveText *stateOf(CustomSliderSpinBox *control, const char *caption);
 
     CustomSlider *m_pSlider = nullptr;
 };
