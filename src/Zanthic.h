@@ -11,6 +11,8 @@
 #include <Zanthic/Custom.h>
 #include <Zanthic/CustomCheckBox.h>
 #include <Zanthic/CustomComboBox.h>
+#include <Zanthic/CustomDockTitleBar.h>
+#include <Zanthic/CustomDockWidget.h>
 #include <Zanthic/CustomFolderSelectWidget.h>
 #include <Zanthic/CustomFrame.h>
 #include <Zanthic/CustomGroupBox.h>
@@ -27,6 +29,7 @@
 #include <Zanthic/CustomSelectWidget.h>
 #include <Zanthic/CustomTextEdit.h>
 #include <Zanthic/CustomTitleBar.h>
+#include <Zanthic/CustomToolBar.h>
 #include <Zanthic/CustomToolTip.h>
 #include <Zanthic/CustomWidget.h>
 #include <Zanthic/HotKeyEvent.h>
