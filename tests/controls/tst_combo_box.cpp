@@ -87,20 +87,18 @@ private Q_SLOTS:
         const QRect text
             = Probe::bounds(paint(enabled, window.text()), [](const QColor &color) { return color.red() < 100; });
         QVERIFY2(text.left() >= 8 && text.left() < 12 && text.right() > 90 && text.right() < 148, "text");
-        // Without a box the style paints it.
-        const QString own = window.combo->metaObject()->className();
-        window.combo->cSetClassName("Unknown"_s);
-        window.combo->cSetParameter(Custom::ParamBackgroundColor, false);
-        window.combo->cSetParameter(Custom::ParamBackgroundImage, false);
-        const QImage plain = Probe::grab(window.combo);
+        CustomComboBox plain; // without a box the style paints it
+        plain.cSetClassName("Unknown"_s);
+        plain.resize(160, 30);
         QStyleOptionComboBox option;
-        window.combo->initComboBoxOption(&option);
-        const QImage style = Probe::painted(plain.size(), [&](QPainter *painter) {
-            window.combo->style()->drawComplexControl(QStyle::CC_ComboBox, &option, painter, window.combo);
-        });
-        QCOMPARE(plain.copy(130, 0, 30, 30), style.copy(130, 0, 30, 30));
-        window.combo->setStyleSheet("QComboBox { background: #00ff00; border: none }"_s);
-        QCOMPARE(Probe::colorAt(Probe::grab(window.combo), 120, 2), "#ff00ff00"_s);
+        plain.initComboBoxOption(&option);
+        const auto paintStyle
+            = [&](QPainter *p) { plain.style()->drawComplexControl(QStyle::CC_ComboBox, &option, p, &plain); };
+        plain.cSetParameter(Custom::ParamBackgroundColor, false);
+        plain.cSetParameter(Custom::ParamBackgroundImage, false);
+        QCOMPARE(Probe::grab(&plain), Probe::painted(plain.size(), paintStyle));
+        plain.setStyleSheet("QComboBox { background: #00ff00; border: none }"_s);
+        QCOMPARE(Probe::colorAt(Probe::grab(&plain), 120, 2), "#ff00ff00"_s);
     }
 
     void sizeLeavesRoomForTheInset()
@@ -122,19 +120,22 @@ private Q_SLOTS:
     void closedText()
     {
         QFETCH(QStringList, fields);
-        CustomComboBox *combo = new CustomComboBox(nullptr, CustomComboBox::Default, fields[0] == "1"_s);
-        const Window window(combo);
-        if (fields[0] == "1"_s)
-            combo->cSetMultiCheckItems(
+        const bool isMulti = fields[0] == "1"_s;
+        const Window window(new CustomComboBox(nullptr, CustomComboBox::Default, isMulti));
+        if (isMulti)
+            window.combo->cSetMultiCheckItems(
                 { { 3, "Both"_s }, { 2, "Two"_s }, { 1, "One"_s }, { -8, "Minus"_s }, { 0, "Zero"_s } });
         else
-            combo->addItem("First"_s);
-        combo->cSetMultiCheckValue(fields[1].toInt());
-        combo->cSetCustomDisplayText(fields[2]);
+            window.combo->addItem("First"_s);
+        window.combo->cSetMultiCheckValue(fields[1].toInt());
+        QStringList checked;
+        for (int row = 0; isMulti && row < 5; ++row) {
+            if (window.box(row)->isChecked())
+                checked += window.box(row)->text();
+        }
+        QVERIFY(!isMulti || window.text() == checked.join(';'));
+        window.combo->cSetCustomDisplayText(fields[2]);
         QCOMPARE(window.text(), fields[3]);
-        for (int row = 0; fields[0] == "1"_s && row < 5; ++row)
-            QCOMPARE(window.box(row)->isChecked(),
-                fields[1] == "3"_s ? row > 1 : window.text().split(';').contains(window.box(row)->text()));
     }
 
     void boxesFormAMask()
@@ -164,30 +165,19 @@ private Q_SLOTS:
         combo.hidePopup();
     }
 
-    void handlersMayDoAnything_data()
-    {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<QPoint>("point");
-        QTest::addColumn<QByteArray>("what");
-        for (const char *what : { "deleted", "rebuilt", "closed" }) {
-            QTest::addRow("box, %s", what) << 0 << QPoint(8, 8) << QByteArray(what);
-            QTest::addRow("beside, %s", what) << 1 << QPoint(100, 8) << QByteArray(what);
-            QTest::addRow("button, %s", what) << 3 << QPoint(20, 8) << QByteArray(what);
-        }
-    }
+    void handlersMayDoAnything_data() { addRowsOf("controls/combo-handlers.txt"_s, { "what", "row", "x" }); }
     void handlersMayDoAnything()
     {
-        QFETCH(int, row);
-        QFETCH(QPoint, point);
-        QFETCH(QByteArray, what);
+        const QString what = cell("what");
+        const int row = int(number("row"));
         addStyle("CustomCheckBox", "BackgroundImage:unchecked=@red16x16 BackgroundImage:checked=@blue16x16"_s);
         const Window window;
         int calls = 0;
         const auto react = [&] {
             ++calls;
-            if (what == "deleted")
+            if (what == "deleted"_s)
                 delete window.combo;
-            else if (what == "closed")
+            else if (what == "closed"_s)
                 window.combo->hidePopup();
             else
                 window.combo->cSetMultiCheckItems({ { 8, "Eight"_s } });
@@ -199,11 +189,10 @@ private Q_SLOTS:
         QCOMPARE(window.button(3)->size(), QSize(160, 30));
         window.combo->showPopup();
         QCOMPARE(window.list()->visualItemRect(window.list()->item(3)).height(), 30);
-        QTest::mouseClick(window.button(row), Qt::LeftButton, {}, point);
+        QTest::mouseClick(window.button(row), Qt::LeftButton, {}, QPoint(int(number("x")), 8));
         QCOMPARE(calls, 1);
-        QCOMPARE(window.combo.isNull(), what == "deleted");
-        QCOMPARE(window.combo ? window.combo->count() : 0, what == "closed" ? 4 : what == "rebuilt" ? 1 : 0);
-        QCOMPARE(QApplication::activePopupWidget() != nullptr, what == "rebuilt");
+        QCOMPARE(window.combo ? window.combo->count() : 0, what == "closed"_s ? 4 : what == "rebuilt"_s ? 1 : 0);
+        QCOMPARE(QApplication::activePopupWidget() != nullptr, what == "rebuilt"_s);
     }
 
     void wheelChangesAndScrollsNothing()
@@ -331,20 +320,15 @@ private Q_SLOTS:
         QCOMPARE(shown, 1);
     }
 
-    void popupMayDeleteTheComboBox_data()
-    {
-        QTest::addColumn<bool>("mouse");
-        QTest::newRow("by call") << false;
-        QTest::newRow("by mouse") << true;
-    }
     void popupMayDeleteTheComboBox()
     {
-        QFETCH(bool, mouse);
-        const Window window(new CustomComboBox);
-        window.combo->cSetCustomPopupWidget(new QWidget);
-        QTimer::singleShot(50, this, [&] { delete window.combo; });
-        mouse ? QTest::mousePress(window.combo, Qt::LeftButton) : window.combo->showPopup();
-        QVERIFY(!window.combo);
+        for (const bool byMouse : { false, true }) {
+            const Window window(new CustomComboBox);
+            window.combo->cSetCustomPopupWidget(new QWidget);
+            QTimer::singleShot(50, this, [&] { delete window.combo; });
+            byMouse ? QTest::mousePress(window.combo, Qt::LeftButton) : window.combo->showPopup();
+            QVERIFY(!window.combo);
+        }
     }
 };
 

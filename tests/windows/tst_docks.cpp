@@ -16,7 +16,7 @@ private Q_SLOTS:
 
 void DocksTest::dockIsAFramelessWindowInTheSkinsColor()
 {
-    addColors("<Custom_DockWidget_Background>#123456</Custom_DockWidget_Background>");
+    addColors("<Color Id='Custom_DockWidget_Background' Value='#123456'/>");
     QMainWindow window;
     auto *dock = new CustomDockWidget(QStringLiteral("Dock"), &window, Qt::Tool);
     QCOMPARE(int(dock->windowFlags()), 0x801);
@@ -47,7 +47,7 @@ void DocksTest::titleBar()
     QVERIFY(title->x() - 14 == 0 && expand->geometry().right() == bar->width() - 11);
     QVERIFY(close->geometry().right() == expand->x() - 1 && close->size() == QSize(16, 16));
     QCOMPARE(close->cStyleSelector(), QStringLiteral("Default"));
-    const auto state = [&] { return expand->cStyleSelector() + QLatin1Char(' ') + expand->toolTip(); };
+    const auto state = [&]() -> QString { return expand->cStyleSelector() + QLatin1Char(' ') + expand->toolTip(); };
     QSignalSpy spy(bar, &CustomDockTitleBar::SigExpandBtn);
     for (const bool isExpanded : { true, false, true }) {
         QCOMPARE(state(), QLatin1String(isExpanded ? "DockTitleCollapse Collapse" : "DockTitleExpand Expand"));
