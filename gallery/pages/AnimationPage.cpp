@@ -114,7 +114,6 @@ void AnimationPage::addSteering()
     auto *stop = translated(new Roomy<CustomPushButton>(this, CustomPushButton::MiddleBase), QT_TR_NOOP("Stop"));
     auto *finished = new LiveText(
         TextLabel::Body, [this] { return tr("Finished: %1").arg(m_nFinished); }, this);
-    finished->setObjectName(QStringLiteral("finished"));
     for (const Animation &one : qAsConst(m_animations)) {
         connect(start, &CustomPushButton::clicked, one.widget, &CustomDynamicWidget::startClockwise);
         connect(stop, &CustomPushButton::clicked, one.widget, &CustomDynamicWidget::stop);

@@ -186,7 +186,8 @@ void CombosPage::addMultiple()
     m_pMulti->cSetMultiCheckValue(SomeDays);
     auto *mask = new LiveText(
         TextLabel::Body, [this] { return tr("Mask: %1").arg(m_pMulti->cGetMultiCheckValue()); }, this);
-    mask->setObjectName(QStringLiteral("mask"));
+    m_pMulti->setObjectName(QStringLiteral("days"));
+    mask->setObjectName(QStringLiteral("daysText"));
     auto *clicks = new LiveText(
         TextLabel::Body, [this] { return tr("Clicks on the button: %1").arg(m_nClicks); }, this);
     auto *fromCode = translated(new Roomy<CustomPushButton>(this), QT_TR_NOOP("None of them"));

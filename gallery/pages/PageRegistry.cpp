@@ -6,6 +6,7 @@
 #include "ChecksPage.h"
 #include "CombosPage.h"
 #include "DialogsPage.h"
+#include "DocksPage.h"
 #include "EnginePage.h"
 #include "FieldsPage.h"
 #include "LabelsPage.h"
@@ -67,6 +68,9 @@ const QVector<PageEntry> &pageEntries()
         { QStringLiteral("windows"), QT_TRANSLATE_NOOP("PageRegistry", "Windows"),
             QT_TRANSLATE_NOOP("PageRegistry", "Frameless windows with title bar, buttons and edges to stretch."),
             create<WindowsPage> },
+        { QStringLiteral("docks"), QT_TRANSLATE_NOOP("PageRegistry", "Docks and tool bars"),
+            QT_TRANSLATE_NOOP("PageRegistry", "Panels at the sides of a window or beside it, and a row of tools."),
+            create<DocksPage> },
         { QStringLiteral("dialogs"), QT_TRANSLATE_NOOP("PageRegistry", "Dialogs"),
             QT_TRANSLATE_NOOP("PageRegistry", "Message boxes for every occasion, and file dialogs."),
             create<DialogsPage> },

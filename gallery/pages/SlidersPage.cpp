@@ -113,8 +113,7 @@ void SlidersPage::addKinds()
 void SlidersPage::addTexts()
 {
     Card *card = addCard(QT_TR_NOOP("Labels, tips and direction"),
-        QT_TR_NOOP(
-            "Labels stand beside the groove or below it; a tip above the handle shows its value."));
+        QT_TR_NOOP("Labels stand beside the groove or below it; a tip above the handle shows its value."));
     m_pBeside = newSlider(this);
     m_pBelow = newSlider(this);
     auto *tip = newSlider(this);

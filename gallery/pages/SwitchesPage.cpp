@@ -100,6 +100,7 @@ void SwitchesPage::addChoices()
             TextLabel::Caption,
             [control, clicks] { return tr("Checked: %1, clicks: %2").arg(control->cCheckedIndex()).arg(*clicks); },
             this);
+        words->setObjectName(control->objectName() + QLatin1String("Text"));
         connect(control, &CustomSwitchButton::checkedChanged, words, [words, clicks] {
             ++*clicks;
             words->refresh();
@@ -108,6 +109,7 @@ void SwitchesPage::addChoices()
     };
     const QString standard = QStringLiteral("Default");
     m_pRenamed = newSwitch(twoNames, standard);
+    m_pRenamed->setObjectName(QStringLiteral("choice"));
     auto *rename = translated(new Roomy<CustomPushButton>(this, CustomPushButton::MiddleBase), QT_TR_NOOP("Rename"));
     connect(rename, &CustomPushButton::clicked, this, [this] {
         m_bRenamed = !m_bRenamed;
@@ -120,6 +122,7 @@ QWidget *SwitchesPage::withNumber(CustomDotSelector *selector)
 {
     auto *words = new LiveText(
         TextLabel::Caption, [selector] { return tr("Current: %1").arg(selector->cCurrentDot()); }, this);
+    words->setObjectName(selector->objectName() + QLatin1String("Text"));
     auto *timer = new QTimer(words); // since no signal tells of a click
     connect(timer, &QTimer::timeout, words, &LiveText::refresh);
     timer->start(Poll_Interval);
@@ -132,6 +135,7 @@ void SwitchesPage::addDots()
     QList<QWidget *> selectors;
     for (int number : { 1, 3, 5, 8 }) {
         CustomDotSelector *selector = newDots(this, number, number / 2);
+        selector->setObjectName(QStringLiteral("dots%1").arg(number));
         selector->setFixedSize(DotRow_Width, selector->sizeHint().height());
         selectors << withNumber(selector);
     }

@@ -608,6 +608,89 @@
     </message>
 </context>
 <context>
+    <name>DocksPage</name>
+    <message>
+        <source>Content</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>图层</translation>
+    </message>
+    <message>
+        <source>Docks and a tool bar in a window</source>
+        <translation>窗口中的停靠窗与工具栏</translation>
+    </message>
+    <message>
+        <source>Drag a dock by its title, also out of the window. Collapsing it is up to the program, which is told.</source>
+        <translation>拖动标题可移动停靠窗，也可拖出窗口。收起由程序处理，程序会收到通知。</translation>
+    </message>
+    <message>
+        <source>Streets</source>
+        <translation>街道</translation>
+    </message>
+    <message>
+        <source>Rivers</source>
+        <translation>河流</translation>
+    </message>
+    <message>
+        <source>Extras</source>
+        <translation>附加项</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>图例</translation>
+    </message>
+    <message>
+        <source>Docks</source>
+        <translation>停靠窗</translation>
+    </message>
+    <message>
+        <source>at the left</source>
+        <translation>在左侧</translation>
+    </message>
+    <message>
+        <source>at the right</source>
+        <translation>在右侧</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>全部显示</translation>
+    </message>
+    <message>
+        <source>Float</source>
+        <translation>浮动</translation>
+    </message>
+    <message>
+        <source>The end of the row</source>
+        <translation>行末</translation>
+    </message>
+    <message>
+        <source>What the window is about</source>
+        <translation>窗口的主要内容</translation>
+    </message>
+    <message>
+        <source>By itself</source>
+        <translation>独立显示</translation>
+    </message>
+    <message>
+        <source>A dock that isn&apos;t docked is a window without a frame.</source>
+        <translation>未停靠的停靠窗是无边框窗口。</translation>
+    </message>
+    <message>
+        <source>expanded</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>collapsed</source>
+        <translation>收起</translation>
+    </message>
+</context>
+<context>
     <name>EnginePage</name>
     <message>
         <source>From a selector</source>
@@ -1315,6 +1398,14 @@ Ctrl+E 启用或禁用</translation>
     <message>
         <source>Frames from a strip or a list of pictures, played once or for good.</source>
         <translation>来自长图或图片列表的帧，播放一次或循环播放。</translation>
+    </message>
+    <message>
+        <source>Docks and tool bars</source>
+        <translation>停靠窗与工具栏</translation>
+    </message>
+    <message>
+        <source>Panels at the sides of a window or beside it, and a row of tools.</source>
+        <translation>位于窗口两侧或独立的面板，以及一行工具。</translation>
     </message>
 </context>
 <context>

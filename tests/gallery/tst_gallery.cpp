@@ -189,6 +189,32 @@ private Q_SLOTS:
         }
     }
 
+    void liveTextsFollowTheUserInEveryLanguage()
+    {
+        const std::tuple<QString, QString, QString> cases[]
+            = { { "combos"_s, "days"_s, "4"_s }, { "sliders"_s, "staged"_s, "60000"_s },
+                  { "switches"_s, "choice"_s, "1"_s }, { "switches"_s, "dots5"_s, "4"_s } };
+        for (const auto &[page, name, value] : cases) {
+            Gallery gallery(page);
+            gallery.window->show();
+            auto *control = gallery.window->findChild<QWidget *>(name);
+            const auto *words = gallery.window->findChild<QLabel *>(name + "Text");
+            control->grab(); // may be scrolled out of view, and takes clicks where it was painted
+            QPoint spot(control->width() - 6, control->height() / 2);
+            if (const auto *combo = qobject_cast<CustomComboBox *>(control)) {
+                control = combo->view()->findChild<CustomCheckBox *>();
+                spot = QPoint(10, control->height() / 2);
+            }
+            QWidget *target = control->childAt(spot) ? control->childAt(spot) : control;
+            QTest::mouseClick(target, Qt::LeftButton, {}, target->mapFrom(control, spot));
+            QTRY_VERIFY2(words->text().contains(value), qPrintable(words->text()));
+            const QString english = words->text();
+            gallery.appearance.nextLanguage();
+            QTRY_VERIFY(words->text() != english);
+            QVERIFY2(words->text().contains(value), qPrintable(words->text()));
+        }
+    }
+
     void answers_data()
     {
         addRowsOf("cases/engine.txt"_s, { "in", "selector", "subs", "key", "status", "value", "last" });
