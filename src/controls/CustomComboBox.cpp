@@ -14,6 +14,7 @@
 
 #include <QtCore/QTimer>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStylePainter>
 
 #include <utility>
@@ -25,6 +26,7 @@ constexpr int kListDistance = 6; // below where Qt places it
 constexpr int kPopupDistance = 4; // below the last row of pixels
 constexpr int kListTextMargin = 6;
 constexpr int kButtonHeight = 30;
+constexpr int kFieldMargin = 4; // brings the text of an editable combo box where that of others begins
 
 QString matchComboSelector(CustomComboBox::StyleSelector selector)
 {
@@ -97,6 +99,23 @@ void CustomComboBoxPrivate::setSheet()
 {
     if (themedView)
         themedView->setStyleSheet(Custom::styleSheet(Custom::SheetListView));
+}
+
+// Qt's field keeps the colours of the platform otherwise. One that the application has coloured keeps them.
+void CustomComboBoxPrivate::colorField()
+{
+    QLineEdit *edit = q->lineEdit();
+    if (!edit || (edit != coloredField && edit->testAttribute(Qt::WA_SetPalette)))
+        return;
+    coloredField = edit;
+    QPalette colors = edit->palette();
+    colors.setColor(QPalette::Base, Qt::transparent);
+    for (const QPalette::ColorGroup group : { QPalette::Active, QPalette::Inactive, QPalette::Disabled })
+        colors.setColor(
+            group, QPalette::Text, q->cFontColor(group == QPalette::Disabled ? Custom::Disabled : Custom::Normal));
+    edit->setPalette(colors);
+    if (edit->textMargins().isNull())
+        edit->setTextMargins(kFieldMargin, 0, 0, 0);
 }
 
 QString CustomComboBoxPrivate::multiText() const
@@ -216,6 +235,11 @@ void CustomComboBoxPrivate::placeList()
     if (!window)
         return;
     window->setFixedWidth(qMax(q->width() + kListExtraWidth, q->sizeHint().width()));
+    // The combo box may have been laid out since they were added.
+    for (const QPointer<CustomPushButton> &button : qAsConst(buttonRows)) {
+        if (button)
+            button->setFixedWidth(q->width());
+    }
     window->move(window->pos() + QPoint(0, kListDistance));
 }
 
@@ -252,6 +276,7 @@ CustomComboBox::~CustomComboBox()
 void CustomComboBox::cSetComboBoxStyleSelector(StyleSelector selector)
 {
     cSetStyleSelector(matchComboSelector(selector));
+    d->colorField();
     if (d->isMulti)
         cSetMultiCheckItems(d->multiItems);
 }
@@ -311,11 +336,13 @@ void CustomComboBox::cAddButtonItem(QString text)
     view->addItem(item);
     auto *button = new CustomPushButton(text, this, CustomPushButton::Default);
     button->setFixedSize(width(), kButtonHeight);
+    view->setItemWidget(item, button);
+    // The first read gives the button its font, which the list's sheet would take away when it comes into the list.
     const auto color = QStringLiteral("DB_COLOR_Custom_ComboBox_Font");
     button->cSetFontColor(color, Custom::Normal);
     button->cSetFontColor(color + QLatin1String("_Hover"), Custom::Hover);
     button->cSetFontColor(color + QLatin1String("_Pressed"), Custom::Pressed);
-    view->setItemWidget(item, button);
+    d->buttonRows.append(button);
     connect(button, &QAbstractButton::clicked, this, &CustomComboBox::onButtonClicked);
 }
 
@@ -434,6 +461,13 @@ void CustomComboBox::paintEvent(QPaintEvent *event)
     cDrawWidget(Custom::WidgetComboBox, &painter, QRect(0, 0, width(), height()), &option);
 }
 
+bool CustomComboBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ChildPolished)
+        d->colorField();
+    return QComboBox::event(event);
+}
+
 void CustomComboBox::mousePressEvent(QMouseEvent *event)
 {
     // The base class goes on with the combo box when showPopup() is done, and a custom popup may have deleted it. So
@@ -465,6 +499,8 @@ void CustomComboBox::changeEvent(QEvent *event)
 void CustomComboBox::customEvent(QEvent *event)
 {
     cCustomEvent(event);
-    if (int(event->type()) == ChangeSkinEvent::EventType)
-        d->setSheet();
+    if (int(event->type()) != ChangeSkinEvent::EventType)
+        return;
+    d->setSheet();
+    d->colorField();
 }
