@@ -11,6 +11,8 @@
 #include <Zanthic/Custom.h>
 #include <Zanthic/CustomCheckBox.h>
 #include <Zanthic/CustomComboBox.h>
+#include <Zanthic/CustomDockTitleBar.h>
+#include <Zanthic/CustomDockWidget.h>
 #include <Zanthic/CustomDotSelector.h>
 #include <Zanthic/CustomDotSlider.h>
 #include <Zanthic/CustomDoubleSpinBox.h>
@@ -38,6 +40,7 @@
 #include <Zanthic/CustomSwitchButton.h>
 #include <Zanthic/CustomTextEdit.h>
 #include <Zanthic/CustomTitleBar.h>
+#include <Zanthic/CustomToolBar.h>
 #include <Zanthic/CustomToolTip.h>
 #include <Zanthic/CustomTwoHandleSlider.h>
 #include <Zanthic/CustomWidget.h>

@@ -28,6 +28,21 @@
     </message>
 </context>
 <context>
+    <name>CustomDockTitleBar</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>收起</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>展开</translation>
+    </message>
+</context>
+<context>
     <name>CustomFolderSelectWidget</name>
     <message>
         <source>Open Directory</source>
