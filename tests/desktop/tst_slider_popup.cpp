@@ -74,8 +74,7 @@ void SliderPopupTest::spinBoxKeepsTheKeys()
     QTRY_COMPARE(form.box->cGetValue(), 100);
     QCOMPARE(form.box->getSpinBox()->value(), 100);
     QVERIFY(form.popup->isVisible());
-    click(middle(form.box)); // back to the keys
-    keys("ctrl+a 7 Return");
+    keys("ctrl+a 7 Return"); // the spin box still has the keys
     QTRY_COMPARE(form.box->cGetValue(), 7);
 }
 
@@ -120,11 +119,10 @@ void SliderPopupTest::popupGoesWithItsWindow()
     QVERIFY(QTest::qWaitForWindowActive(form.get()));
     click(middle(form->box));
     QTRY_VERIFY(placeOf(*form->popup).isValid());
-    click(middle(form->popup));
-    QTRY_VERIFY(form->popup->isActiveWindow());
-    keys("alt+F4");
+    keys("alt+F4"); // which the window gets
+    QTRY_VERIFY(!form->isVisible() && !form->popup->isVisible());
+    form->show();
     QVERIFY(QTest::qWaitForWindowActive(form.get()));
-    QVERIFY(!form->popup->isVisible() && !form->box->getSpinBox()->hasFocus());
     click(middle(form->box));
     QTRY_VERIFY(placeOf(*form->popup).isValid());
     form.reset();
