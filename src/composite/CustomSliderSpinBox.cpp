@@ -257,7 +257,8 @@ bool CustomSliderSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
     const QPointer<QObject> guard(this);
     if (hides)
         HideSlider();
-    return guard && QObject::eventFilter(watched, event);
+    // With the control its window may be gone, too.
+    return !guard || QObject::eventFilter(watched, event);
 }
 
 CustomSliderSpinBox::CustomSliderSpinBox(QWidget *parent, Custom::CommonStyleSelector selector, SliderPosition position)
