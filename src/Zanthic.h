@@ -3,10 +3,14 @@
 /// \file
 /// Everything that the library offers.
 
+#include <Zanthic/CComboBoxListDelegate.h>
+#include <Zanthic/CComboBoxListModel.h>
+#include <Zanthic/CComboBoxListView.h>
 #include <Zanthic/CInterWidgetMenu.h>
 #include <Zanthic/ChangeSkinEvent.h>
 #include <Zanthic/Custom.h>
 #include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomComboBox.h>
 #include <Zanthic/CustomDotSelector.h>
 #include <Zanthic/CustomDotSlider.h>
 #include <Zanthic/CustomDoubleSpinBox.h>

@@ -23,5 +23,6 @@ ZANTHIC_TEST_EXPORT void drawSolidBorder(
 /// Whether rounded boxes are painted from pictures of an earlier paint; on. For tests, which hold both ways
 /// against each other.
 ZANTHIC_TEST_EXPORT void setPicturesEnabled(bool on);
+bool arePicturesEnabled();
 
 } // namespace BoxPainter

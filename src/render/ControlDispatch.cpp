@@ -137,14 +137,15 @@ void CustomObject::cDrawWidget(
     case Custom::WidgetPushButton:
         cDrawPushButton(type, painter, rect, option, d->widget);
         break;
+    case Custom::WidgetComboBox:
+        cDrawComboBox(type, painter, rect, option, d->widget);
+        break;
     case Custom::WidgetDrawSlider:
     case Custom::WidgetDotSlider:
     case Custom::WidgetTwoHandleSlider:
     case Custom::WidgetProcessSlider:
         cDrawSlider(type, painter, rect, option, d->widget);
         break;
-    case Custom::WidgetComboBox:
-        // This has no painter of its own in this version and is a plain box.
     default:
         cDrawBackground(painter, rect, Custom::Normal, {});
         cDrawBorder(painter, rect, Custom::Normal, {});

@@ -39,7 +39,7 @@ struct Tip
     int pointer = 0; ///< x of the tip of its pointer
 
     QRect textRect() const { return rect.adjusted(0, 0, 0, -4); }
-    QVector<QPoint> outline() const; ///< eight points, the last is the first
+    ZANTHIC_TEST_EXPORT QVector<QPoint> outline() const; ///< eight points, the last is the first
 };
 
 struct Label

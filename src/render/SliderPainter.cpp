@@ -1,53 +1,19 @@
 #include "render/SliderPainter_p.h"
 
 #include "render/BoxPainter_p.h"
+#include "render/BoxPictures_p.h"
 #include "render/ControlQueries_p.h"
 #include "render/PainterTools_p.h"
 #include "render/SliderOption_p.h"
+#include "render/SliderStyle_p.h"
 #include "render/TextPalette_p.h"
-#include "style/CustomObject_p.h"
-#include "style/StyleImages_p.h"
 
 #include <Zanthic/CustomObject.h>
 
-#include <QtGui/QFontMetrics>
 #include <QtGui/QPainterPath>
 #include <QtWidgets/QWidget>
 
 namespace {
-
-// What a document may ask for; more would not fit any screen.
-constexpr int Groove_MaxThickness = 4096;
-constexpr int Font_MaxSize = 4096;
-
-int number(const CustomObject &object, const QString &attr, int max)
-{
-    return qBound(-max, object.cAttributeValue(attr).toInt(), max);
-}
-
-QColor color(const CustomObject &object, const QString &attr, Custom::ItemStatus status = Custom::Normal)
-{
-    return Custom::string2Color(object.cAttributeValue(attr, status));
-}
-
-QFont fontOf(const CustomObject &object, const QString &sizeAttr)
-{
-    QFont font(Custom::globalFontFamily());
-    const int size = number(object, sizeAttr, Font_MaxSize);
-    if (size > 0)
-        font.setPixelSize(size);
-    return font;
-}
-
-QFont labelFont(const CustomObject &object)
-{
-    return fontOf(object, QStringLiteral("TextTipFontSize"));
-}
-
-QFont tipFont(const CustomObject &object)
-{
-    return fontOf(object, QStringLiteral("ToolTipFontSize"));
-}
 
 Custom::ItemStatus handleStatus(const CustomDrawSliderOption &option, bool enabled)
 {
@@ -61,11 +27,6 @@ Custom::ItemStatus secondHandleStatus(const CustomDrawSliderOption &option, bool
     if (!enabled)
         return Custom::Disabled;
     return option.activeHandle != 1 && !option.secondHandlePressed ? Custom::Normal : Custom::Pressed;
-}
-
-QString handleImage(const CustomObject &object, Custom::ItemStatus status)
-{
-    return object.cAttributeValue(QStringLiteral("HandleImage"), status);
 }
 
 SliderLayout::Labels labelsOf(const CustomDrawSliderOption &option)
@@ -83,35 +44,30 @@ class Paint
 public:
     Paint(Custom::CustomWidgetType type, CustomObject *object, const CustomDrawSliderOption &option, QWidget *widget,
         QPainter *painter)
-        : m_eType(type), m_pObject(object), m_oOption(option), m_pWidget(widget), m_pPainter(painter)
-    {
-        m_strSubPage = object->cAttributeValue(QStringLiteral("SubPageColor"));
-        m_strAddPage = object->cAttributeValue(QStringLiteral("AddPageColor"));
-        if (option.reverse)
-            m_strSubPage.swap(m_strAddPage);
-    }
+        : m_eType(type),
+          m_pObject(object),
+          m_oOption(option),
+          m_pWidget(widget),
+          m_pPainter(painter),
+          m_pStyle(CustomObjectData::get(object)->resolvedExtra<SliderStyle>()),
+          m_oSubPage(option.reverse ? m_pStyle->addPage : m_pStyle->subPage),
+          m_oAddPage(option.reverse ? m_pStyle->subPage : m_pStyle->addPage)
+    { }
 
     void drawGroove(const SliderLayout::Result &place) const
     {
-        drawSection(place.valueSection, m_strSubPage);
-        drawSection(place.leftSection, m_strAddPage);
-        drawSection(place.rightSection, m_strAddPage);
+        drawSection(place.valueSection, m_oSubPage.brush);
+        drawSection(place.leftSection, m_oAddPage.brush);
+        drawSection(place.rightSection, m_oAddPage.brush);
     }
 
     void drawDots(const SliderLayout::Result &place) const
     {
-        if (place.dots.count < 1)
-            return;
-        m_pPainter->setBrush(Qt::NoBrush);
-        m_pPainter->setPen(QPen(color(*m_pObject, QStringLiteral("DotCircleColor")), 1));
-        const QBrush fill(Custom::string2Color(m_strSubPage));
         for (int i = 0; i < place.dots.count; ++i) {
             const QRect dot = place.dots.outline(i);
-            QPainterPath path;
-            path.addEllipse(dot);
-            m_pPainter->drawPath(path);
+            BoxPictures::drawEllipse(m_pPainter, dot, m_pStyle->dotCircle, false);
             if (place.handle.left() < dot.left())
-                fillEllipse(place.dots.fill(i), fill);
+                BoxPictures::drawEllipse(m_pPainter, place.dots.fill(i), m_oSubPage.color, true);
         }
     }
 
@@ -124,7 +80,7 @@ public:
         if (m_eType == Custom::WidgetTwoHandleSlider)
             drawHandle(place.secondHandle, secondHandleStatus(m_oOption, enabled));
         else if (m_eType == Custom::WidgetProcessSlider && m_oOption.showDot)
-            fillEllipse(place.marker, Qt::white);
+            BoxPictures::drawEllipse(m_pPainter, place.marker, Qt::white, true);
         if (firstOnTop)
             drawHandle(place.handle, handleStatus(m_oOption, enabled));
     }
@@ -133,18 +89,17 @@ public:
     {
         if (place.labels.isEmpty() || m_oOption.textTips.isEmpty())
             return;
-        m_pPainter->setFont(labelFont(*m_pObject));
-        const QColor textColor = color(*m_pObject, QStringLiteral("TextTipFontColor"));
+        m_pPainter->setFont(m_pStyle->labelFont.font());
         const int count = qMin(place.labels.size(), m_oOption.textTips.size());
         for (int i = 0; i < count; ++i)
-            drawText(place.labels.at(i).rect, place.labels.at(i).flags, m_oOption.textTips.at(i), textColor);
+            drawText(place.labels.at(i).rect, place.labels.at(i).flags, m_oOption.textTips.at(i), m_pStyle->labelColor);
     }
 
     void drawTips(const SliderLayout::Result &place) const
     {
         if (!m_oOption.showToolTip)
             return;
-        m_pPainter->setFont(tipFont(*m_pObject));
+        m_pPainter->setFont(m_pStyle->tipFont.font());
         if (m_eType != Custom::WidgetTwoHandleSlider) {
             drawTip(place.tip, m_oOption.value, Custom::Normal);
         } else if (m_oOption.activeHandle == 0) {
@@ -158,36 +113,27 @@ public:
 
 private:
     // A box of the control with another colour.
-    void drawSection(const QRect &rect, const QString &colorText) const
+    void drawSection(const QRect &rect, const ParsedBrush &fill) const
     {
         if (rect.isEmpty())
             return;
         CustomObjectData *data = CustomObjectData::get(m_pObject);
         const std::shared_ptr<const ResolvedStyle> style = data->resolved(Custom::Normal, {});
-        const ParsedBrush fill(colorText);
         BoxPainter::drawBackground(*data, *style, m_pPainter, rect, &fill);
         m_pObject->cDrawBorder(m_pPainter, rect, Custom::Normal, {});
     }
 
     void drawHandle(const QRect &rect, Custom::ItemStatus status) const
     {
-        StyleImage(handleImage(*m_pObject, status)).draw(m_pPainter, rect);
-    }
-
-    void fillEllipse(const QRect &rect, const QBrush &brush) const
-    {
-        QPainterPath path;
-        path.addEllipse(rect);
-        m_pPainter->fillPath(path, brush);
+        m_pStyle->handle(status).draw(m_pPainter, rect);
     }
 
     void drawTip(const SliderLayout::Tip &tip, qint64 value, Custom::ItemStatus status) const
     {
         QPainterPath path;
         path.addPolygon(QPolygon(tip.outline()));
-        m_pPainter->fillPath(path, color(*m_pObject, QStringLiteral("ToolTipBackgroundColor"), status));
-        drawText(tip.textRect(), Qt::AlignCenter, QString::number(value),
-            color(*m_pObject, QStringLiteral("ToolTipFontColor"), status));
+        m_pPainter->fillPath(path, m_pStyle->tip(status).background);
+        drawText(tip.textRect(), Qt::AlignCenter, QString::number(value), m_pStyle->tip(status).text);
     }
 
     void drawText(const QRect &rect, int flags, const QString &text, const QColor &textColor) const
@@ -202,8 +148,9 @@ private:
     const CustomDrawSliderOption &m_oOption;
     QWidget *m_pWidget;
     QPainter *m_pPainter;
-    QString m_strSubPage;
-    QString m_strAddPage;
+    std::shared_ptr<const SliderStyle> m_pStyle;
+    const SliderStyle::Ink &m_oSubPage; // of the value
+    const SliderStyle::Ink &m_oAddPage; // of the rest
 };
 
 } // namespace
@@ -211,28 +158,27 @@ private:
 SliderLayout::Input SliderPainter::measured(Custom::CustomWidgetType type, const CustomObject &object,
     const CustomDrawSliderOption &option, const QRect &rect, bool enabled)
 {
+    const auto style = CustomObjectData::get(&object)->resolvedExtra<SliderStyle>();
     SliderLayout::Input input;
     input.type = type;
     input.rect = rect;
-    input.thickness = number(object, QStringLiteral("SliderThickness"), Groove_MaxThickness);
-    input.handle = StyleImages::pixmap(handleImage(object, handleStatus(option, enabled))).size();
+    input.thickness = style->thickness;
+    input.handle = style->handle(handleStatus(option, enabled)).size();
     if (type == Custom::WidgetTwoHandleSlider)
-        input.secondHandle = StyleImages::pixmap(handleImage(object, secondHandleStatus(option, enabled))).size();
+        input.secondHandle = style->handle(secondHandleStatus(option, enabled)).size();
     input.handlePos = option.handlePos;
     input.secondHandlePos = option.secondHandlePos;
     input.labels = labelsOf(option);
     input.labelCount = option.textTips.size();
-    if (input.labels != SliderLayout::NoLabels) {
-        const QString sample = option.textTips.isEmpty() ? QStringLiteral("High") : option.textTips.first();
-        input.labelSample = QFontMetrics(labelFont(object)).boundingRect(sample).size();
-    }
+    if (input.labels != SliderLayout::NoLabels)
+        input.labelSample = style->labelFont.boundingSize(
+            option.textTips.isEmpty() ? QStringLiteral("High") : option.textTips.first());
     input.tips = option.showToolTip;
     if (input.tips) {
-        const QFontMetrics metrics(tipFont(object));
-        input.tipSampleHeight = metrics.boundingRect(QStringLiteral("100")).height();
-        input.tipText = metrics.boundingRect(QString::number(option.value)).size();
+        input.tipSampleHeight = style->tipFont.boundingSize(QStringLiteral("100")).height();
+        input.tipText = style->tipFont.boundingSize(QString::number(option.value));
         if (type == Custom::WidgetTwoHandleSlider)
-            input.secondTipText = metrics.boundingRect(QString::number(option.secondValue)).size();
+            input.secondTipText = style->tipFont.boundingSize(QString::number(option.secondValue));
     }
     input.isSecondBelowFirst = option.secondValue < option.value;
     input.dotCount = option.dotCount;

@@ -257,6 +257,30 @@ private Q_SLOTS:
         }
     }
 
+    void fieldsStandInLine()
+    {
+        QVERIFY(ZanthicTheme::applySkin("light"_s));
+        QSpinBox spin;
+        spin.setStyleSheet(Custom::styleSheet(Custom::SheetSpinBox));
+        QLineEdit edit;
+        edit.setStyleSheet(QString(Custom::styleSheet(Custom::SheetLineEdit)).replace("*PaddingLeft*"_s, "0"_s));
+        QCOMPARE(spin.sizeHint().height(), 32);
+        QCOMPARE(edit.sizeHint().height(), 32);
+        spin.resize(100, 32);
+        spin.ensurePolished();
+        QStyleOptionSpinBox option;
+        option.initFrom(&spin);
+        option.subControls = QStyle::SC_All;
+        const auto place = [&](QStyle::SubControl part) {
+            return spin.style()->subControlRect(QStyle::CC_SpinBox, &option, part, &spin);
+        };
+        // The inner field adds 2 px in front of its text, which so begins 8 px from the edge like that of a combo box.
+        QCOMPARE(place(QStyle::SC_SpinBoxEditField), QRect(6, 5, 64, 22));
+        // With a margin of 1 px at the edge the arrows stand 14 px from it, as the one of a combo box does.
+        QCOMPARE(place(QStyle::SC_SpinBoxUp), QRect(73, 0, 27, 16));
+        QCOMPARE(place(QStyle::SC_SpinBoxDown), QRect(73, 16, 27, 16));
+    }
+
     void selectorsReadWell_data() { addRowsOf("cases/selectors.txt"_s, { "skin", "class", "selector", "parts" }); }
     void selectorsReadWell()
     {

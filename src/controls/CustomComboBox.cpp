@@ -1,0 +1,506 @@
+#include <Zanthic/CustomComboBox.h>
+
+#include "controls/CustomComboBox_p.h"
+#include "platform/KorvInterface_p.h"
+#include "render/ComboBoxLayout_p.h"
+
+#include <Zanthic/CComboBoxListDelegate.h>
+#include <Zanthic/CComboBoxListModel.h>
+#include <Zanthic/CComboBoxListView.h>
+#include <Zanthic/ChangeSkinEvent.h>
+#include <Zanthic/CustomCheckBox.h>
+#include <Zanthic/CustomMainWindow.h>
+#include <Zanthic/CustomPushButton.h>
+
+#include <QtCore/QTimer>
+#include <QtGui/QWheelEvent>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStylePainter>
+
+#include <utility>
+
+namespace {
+
+constexpr int kListExtraWidth = 24; // over the combo box
+constexpr int kListDistance = 6; // below where Qt places it
+constexpr int kPopupDistance = 4; // below the last row of pixels
+constexpr int kListTextMargin = 6;
+constexpr int kButtonHeight = 30;
+constexpr int kFieldMargin = 4; // brings the text of an editable combo box where that of others begins
+
+QString matchComboSelector(CustomComboBox::StyleSelector selector)
+{
+    switch (selector) {
+    case CustomComboBox::Default:
+        return QStringLiteral("Default");
+    case CustomComboBox::DarkBlack:
+        return QStringLiteral("DarkBlack");
+    case CustomComboBox::GrayWhite:
+        return QStringLiteral("GrayWhite");
+    }
+    return QString();
+}
+
+} // namespace
+
+QStyleOptionViewItem ComboBoxModelView::viewOptions() const
+{
+    return CustomComboBoxPrivate::rowOption(QListView::viewOptions(), m_pComboBox);
+}
+
+QStyleOptionViewItem CustomComboBoxPrivate::rowOption(
+    const QStyleOptionViewItem &option, const CustomComboBox *comboBox)
+{
+    QStyleOptionViewItem row = option;
+    row.showDecorationSelected = true;
+    if (comboBox) {
+        row.font = comboBox->font();
+        row.fontMetrics = QFontMetrics(row.font);
+    }
+    return row;
+}
+
+void CustomComboBoxPrivate::createView()
+{
+    auto *view = new CComboBoxListView(q);
+    themedView = view;
+    setSheet();
+    view->setItemDelegate(new CComboBoxListDelegate(q, view));
+    q->setModel(view->model());
+    QObject::connect(view, &QListWidget::itemClicked, q, &CustomComboBox::onListItemClicked);
+    q->setView(view);
+    if (QWidget *window = q->viewParent()) {
+        window->installEventFilter(q);
+        window->setStyleSheet(QStringLiteral("QFrame{outline: 0px;border : 0px; background:transparent;padding:0px;}"));
+    }
+}
+
+CComboBoxListView *CustomComboBoxPrivate::listView() const
+{
+    return qobject_cast<CComboBoxListView *>(q->view());
+}
+
+void CustomComboBoxPrivate::replaceView(CComboBoxListView *view)
+{
+    if (themedView != view)
+        return;
+    auto *plain = new ComboBoxModelView(q);
+    themedView = plain;
+    setSheet();
+    plain->setItemDelegate(new CComboBoxListDelegate(q, plain));
+    // It is in the middle of a call, so it is taken out of the popup, which would delete it at once.
+    view->setParent(q);
+    view->hide();
+    view->deleteLater();
+    q->setView(plain);
+}
+
+void CustomComboBoxPrivate::setSheet()
+{
+    if (themedView)
+        themedView->setStyleSheet(Custom::styleSheet(Custom::SheetListView));
+}
+
+// Qt's field keeps the colours of the platform otherwise. One that the application has coloured keeps them.
+void CustomComboBoxPrivate::colorField()
+{
+    QLineEdit *edit = q->lineEdit();
+    if (!edit || (edit != coloredField && edit->testAttribute(Qt::WA_SetPalette)))
+        return;
+    coloredField = edit;
+    QPalette colors = edit->palette();
+    colors.setColor(QPalette::Base, Qt::transparent);
+    for (const QPalette::ColorGroup group : { QPalette::Active, QPalette::Inactive, QPalette::Disabled })
+        colors.setColor(
+            group, QPalette::Text, q->cFontColor(group == QPalette::Disabled ? Custom::Disabled : Custom::Normal));
+    edit->setPalette(colors);
+    if (edit->textMargins().isNull())
+        edit->setTextMargins(kFieldMargin, 0, 0, 0);
+}
+
+QString CustomComboBoxPrivate::multiText() const
+{
+    static const QString strSplit = QStringLiteral(";");
+    QStringList labels;
+    for (auto it = multiItems.cbegin(); it != multiItems.cend(); ++it) {
+        if (KorvInterface::testFlag(it.key(), multiValue))
+            labels.append(it.value());
+    }
+    return labels.join(strSplit);
+}
+
+void CustomComboBoxPrivate::addCheckItem(CComboBoxListView *view, int flag, const QString &label)
+{
+    auto *item = new QListWidgetItem;
+    item->setFlags(item->flags() & ~Qt::ItemIsSelectable);
+    view->insertItem(view->count(), item);
+    auto *box = new CustomCheckBox(view, CustomCheckBox::GrayWhite);
+    box->cSetStyleSelector(q->cStyleSelector());
+    box->setText(label);
+    box->cSetUserData(flag);
+    view->setItemWidget(item, box);
+    box->setChecked(KorvInterface::testFlag(flag, multiValue));
+    connectBox(box);
+}
+
+void CustomComboBoxPrivate::connectBox(const CustomCheckBox *box) const
+{
+    QObject::connect(box, &QCheckBox::stateChanged, q, &CustomComboBox::onMultiCheckChanged);
+}
+
+void CustomComboBoxPrivate::toggle(CustomCheckBox *box)
+{
+    // A box that is toggled by code goes on with itself after it has told of its state.
+    isToggling = true;
+    box->toggle();
+    isToggling = false;
+    if (std::exchange(valueChanged, false))
+        tellOfValue();
+}
+
+void CustomComboBoxPrivate::tellOfValue()
+{
+    const QPointer<CustomComboBox> self(q);
+    Q_EMIT q->sigMultiValueChanged();
+    if (self)
+        self->update();
+}
+
+bool CustomComboBoxPrivate::hasCustomPopup() const
+{
+    return popupWindow && popupWidget && popupWindow->isAncestorOf(popupWidget);
+}
+
+void CustomComboBoxPrivate::createPopupWindow()
+{
+    popupWindow = new CustomMainWindow(q);
+    popupWindow->cSetTitleVisible(false);
+    popupWindow->cSetBorderWidth(0, Custom::AllEdge, Custom::Normal);
+    popupWindow->cSetBorderRadius(0, Custom::AllCorner, Custom::Normal);
+}
+
+void CustomComboBoxPrivate::showCustomPopup()
+{
+    popupAgain = popupRunning;
+    if (popupRunning) { // the call that runs shows it again
+        popupWindow->hide();
+        return;
+    }
+    const QPointer<CustomComboBox> self(q);
+    popupRunning = true;
+    do {
+        popupAgain = false;
+        runPopup();
+        if (!self)
+            return;
+    } while (popupAgain && hasCustomPopup());
+    popupRunning = false;
+    dropPressedLook();
+}
+
+void CustomComboBoxPrivate::runPopup()
+{
+    const QPointer<CustomComboBox> self(q);
+    popupWindow->hide();
+    if (!self || !hasCustomPopup())
+        return;
+    // The widget's size, unless that is only what the window has left for it, which would shrink with each time.
+    if (popupWidget->size() != contentSize)
+        popupSize = popupWidget->size();
+    popupWindow->setFixedSize(popupSize);
+    popupWindow->move(q->mapToGlobal(QPoint(0, q->height() - 1)) + QPoint(0, kPopupDistance));
+    popupWindow->cPopup();
+    if (self)
+        contentSize = popupWidget ? popupWidget->size() : QSize();
+}
+
+void CustomComboBoxPrivate::dropPressedLook() const
+{
+    // The application may have disabled it meanwhile.
+    if (q->testAttribute(Qt::WA_ForceDisabled))
+        return;
+    const bool hadFocus = q->window()->focusWidget() == q;
+    const QPointer<CustomComboBox> self(q);
+    q->setEnabled(false);
+    if (!self)
+        return;
+    self->setEnabled(true);
+    if (self && hadFocus)
+        self->setFocus();
+}
+
+void CustomComboBoxPrivate::placeList()
+{
+    QWidget *window = q->viewParent();
+    if (!window)
+        return;
+    window->setFixedWidth(qMax(q->width() + kListExtraWidth, q->sizeHint().width()));
+    // The combo box may have been laid out since they were added.
+    for (const QPointer<CustomPushButton> &button : qAsConst(buttonRows)) {
+        if (button)
+            button->setFixedWidth(q->width());
+    }
+    window->move(window->pos() + QPoint(0, kListDistance));
+}
+
+void CustomComboBoxPrivate::measureTexts()
+{
+    auto *model = qobject_cast<CComboBoxListModel *>(q->model());
+    if (!model || !q->view())
+        return;
+    const QFontMetrics metrics(q->font());
+    const int limit = q->view()->width() - kListTextMargin;
+    bool isTooWide = false;
+    for (int i = 0; i < q->count() && !isTooWide; ++i)
+        isTooWide = metrics.boundingRect(q->itemText(i)).width() >= limit;
+    model->cSetTextTooWide(isTooWide);
+}
+
+CustomComboBox::CustomComboBox(QWidget *parent, StyleSelector selector, bool multi)
+    : QComboBox(parent),
+      CustomObject(this, QString(), QStringLiteral("Default")),
+      d(std::make_unique<CustomComboBoxPrivate>(this, multi))
+{
+    cSetClassName(QString::fromLatin1(metaObject()->className()));
+    cSetStyleSelector(matchComboSelector(selector));
+    cResetAllValue();
+    d->createView();
+}
+
+CustomComboBox::~CustomComboBox()
+{
+    // Its content may want to ask this class something.
+    delete d->popupWindow;
+}
+
+void CustomComboBox::cSetComboBoxStyleSelector(StyleSelector selector)
+{
+    cSetStyleSelector(matchComboSelector(selector));
+    d->colorField();
+    if (d->isMulti)
+        cSetMultiCheckItems(d->multiItems);
+}
+
+void CustomComboBox::cSetCustomDisplayText(const QString &text)
+{
+    d->displayText = text;
+    update();
+}
+
+void CustomComboBox::cSetMultiCheckItems(const QMap<int, QString> &items)
+{
+    const QPointer<CComboBoxListView> view = d->listView();
+    if (!view)
+        return;
+    // Whoever hears of the change of items may set others.
+    const QMap<int, QString> added = items;
+    view->clear();
+    if (!view)
+        return;
+    d->multiItems = added;
+    for (auto it = added.cbegin(); it != added.cend() && view; ++it)
+        d->addCheckItem(view, it.key(), it.value());
+}
+
+void CustomComboBox::cSetMultiCheckValue(int value)
+{
+    d->multiValue = value;
+    update();
+    const QPointer<CComboBoxListView> view = d->listView();
+    if (d->multiItems.isEmpty() || !view)
+        return;
+    for (int row = 0; view && row < view->count(); ++row) {
+        const QPointer<CustomCheckBox> box = qobject_cast<CustomCheckBox *>(view->itemWidget(view->item(row)));
+        if (!box)
+            continue;
+        disconnect(box, &QCheckBox::stateChanged, this, &CustomComboBox::onMultiCheckChanged);
+        box->setChecked(KorvInterface::testFlag(box->cUserData().toInt(), value));
+        if (view && box)
+            d->connectBox(box);
+    }
+}
+
+int CustomComboBox::cGetMultiCheckValue() const
+{
+    return d->multiValue;
+}
+
+void CustomComboBox::cAddButtonItem(QString text)
+{
+    CComboBoxListView *view = d->listView();
+    if (!view)
+        return;
+    auto *item = new QListWidgetItem;
+    item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
+    item->setSizeHint(QSize(0, kButtonHeight));
+    view->addItem(item);
+    auto *button = new CustomPushButton(text, this, CustomPushButton::Default);
+    button->setFixedSize(width(), kButtonHeight);
+    view->setItemWidget(item, button);
+    // The first read gives the button its font, which the list's sheet would take away when it comes into the list.
+    const auto color = QStringLiteral("DB_COLOR_Custom_ComboBox_Font");
+    button->cSetFontColor(color, Custom::Normal);
+    button->cSetFontColor(color + QLatin1String("_Hover"), Custom::Hover);
+    button->cSetFontColor(color + QLatin1String("_Pressed"), Custom::Pressed);
+    d->buttonRows.append(button);
+    connect(button, &QAbstractButton::clicked, this, &CustomComboBox::onButtonClicked);
+}
+
+void CustomComboBox::cSetCustomPopupWidget(QWidget *widget)
+{
+    for (const QWidget *holder = this; widget && holder; holder = holder->parentWidget()) {
+        if (holder == widget)
+            return;
+    }
+    if (widget != d->popupWidget)
+        d->contentSize = QSize();
+    d->popupWidget = widget;
+    if (!widget)
+        return;
+    if (!d->popupWindow)
+        d->createPopupWindow();
+    d->popupWindow->cSetCentralWidget(widget);
+    widget->show(); // one that was set before has been hidden
+    // A popup that loses its content while it is open closes.
+    QWidget *window = d->popupWindow;
+    connect(widget, &QObject::destroyed, window, [this, window] {
+        QTimer::singleShot(0, window, [this, window] {
+            if (!d->hasCustomPopup())
+                window->hide();
+        });
+    });
+}
+
+CustomMainWindow *CustomComboBox::cGetCustomPopupWindows() const
+{
+    return d->popupWindow;
+}
+
+void CustomComboBox::initComboBoxOption(QStyleOptionComboBox *option) const
+{
+    if (!option)
+        return;
+    initStyleOption(option);
+    if (!d->displayText.isEmpty())
+        option->currentText = d->displayText;
+    else if (d->isMulti)
+        option->currentText = d->multiText();
+}
+
+QWidget *CustomComboBox::viewParent() const
+{
+    return view() ? view()->parentWidget() : nullptr;
+}
+
+QSize CustomComboBox::sizeHint() const
+{
+    if (!styleSheet().isEmpty())
+        return QComboBox::sizeHint();
+    cFont(); // a new skin may have brought another one
+    return QComboBox::sizeHint() + QSize(ComboBoxLayout::Text_Inset, 0);
+}
+
+void CustomComboBox::showPopup()
+{
+    if (d->hasCustomPopup()) {
+        if (d->isPressing)
+            d->popupWanted = true;
+        else
+            d->showCustomPopup();
+        return;
+    }
+    QComboBox::showPopup();
+    d->placeList();
+    d->measureTexts();
+}
+
+void CustomComboBox::hidePopup()
+{
+    const QPointer<CustomComboBox> self(this);
+    if (d->popupWindow)
+        d->popupWindow->hide();
+    if (self)
+        QComboBox::hidePopup();
+}
+
+void CustomComboBox::onListItemClicked(QListWidgetItem *item)
+{
+    CComboBoxListView *view = d->listView();
+    if (auto *box = view ? qobject_cast<CustomCheckBox *>(view->itemWidget(item)) : nullptr)
+        view->toggle(box);
+}
+
+void CustomComboBox::onMultiCheckChanged(int state)
+{
+    Q_UNUSED(state)
+    const auto *box = qobject_cast<CustomCheckBox *>(sender());
+    if (!box)
+        return;
+    const int flag = box->cUserData().toInt();
+    d->multiValue = box->isChecked() ? d->multiValue | flag : d->multiValue & ~flag;
+    if (d->isToggling)
+        d->valueChanged = true;
+    else
+        d->tellOfValue();
+}
+
+void CustomComboBox::onButtonClicked()
+{
+    Q_EMIT sigButtonClicked();
+}
+
+void CustomComboBox::paintEvent(QPaintEvent *event)
+{
+    if (!styleSheet().isEmpty()) {
+        QComboBox::paintEvent(event);
+        return;
+    }
+    QStyleOptionComboBox option;
+    initComboBoxOption(&option);
+    QStylePainter painter(this);
+    cDrawWidget(Custom::WidgetComboBox, &painter, QRect(0, 0, width(), height()), &option);
+}
+
+bool CustomComboBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ChildPolished)
+        d->colorField();
+    return QComboBox::event(event);
+}
+
+void CustomComboBox::mousePressEvent(QMouseEvent *event)
+{
+    // The base class goes on with the combo box when showPopup() is done, and a custom popup may have deleted it. So
+    // that opens only here.
+    d->isPressing = true;
+    QComboBox::mousePressEvent(event);
+    d->isPressing = false;
+    if (std::exchange(d->popupWanted, false))
+        showPopup();
+}
+
+void CustomComboBox::wheelEvent(QWheelEvent *event)
+{
+    event->accept();
+}
+
+bool CustomComboBox::eventFilter(QObject *watched, QEvent *event)
+{
+    return QObject::eventFilter(watched, event);
+}
+
+void CustomComboBox::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        cLanguageChange();
+    QComboBox::changeEvent(event);
+}
+
+void CustomComboBox::customEvent(QEvent *event)
+{
+    cCustomEvent(event);
+    if (int(event->type()) != ChangeSkinEvent::EventType)
+        return;
+    d->setSheet();
+    d->colorField();
+}
