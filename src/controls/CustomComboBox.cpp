@@ -13,6 +13,8 @@
 #include <Zanthic/CustomPushButton.h>
 
 #include <QtCore/QTimer>
+#include <QtGui/QCursor>
+#include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QStylePainter>
 
@@ -197,11 +199,16 @@ void CustomComboBoxPrivate::runPopup()
 
 void CustomComboBoxPrivate::dropPressedLook() const
 {
+    const QPointer<CustomComboBox> self(q);
+    // The pointer may have left it while the popup had all events.
+    if (q->underMouse() && !q->rect().contains(q->mapFromGlobal(QCursor::pos()))) {
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(q, &leave);
+    }
     // The application may have disabled it meanwhile.
-    if (q->testAttribute(Qt::WA_ForceDisabled))
+    if (!self || self->testAttribute(Qt::WA_ForceDisabled))
         return;
     const bool hadFocus = q->window()->focusWidget() == q;
-    const QPointer<CustomComboBox> self(q);
     q->setEnabled(false);
     if (!self)
         return;
@@ -216,7 +223,9 @@ void CustomComboBoxPrivate::placeList()
     if (!window)
         return;
     window->setFixedWidth(qMax(q->width() + kListExtraWidth, q->sizeHint().width()));
-    window->move(window->pos() + QPoint(0, kListDistance));
+    // A long list reaches down to the end of the screen, and what scrolls it on has to stay there.
+    const int room = window->screen()->availableGeometry().bottom() - window->geometry().bottom();
+    window->move(window->pos() + QPoint(0, qBound(0, room, kListDistance)));
 }
 
 void CustomComboBoxPrivate::measureTexts()
