@@ -320,10 +320,9 @@ void CustomComboBox::cAddButtonItem(QString text)
     view->addItem(item);
     auto *button = new CustomPushButton(text, this, CustomPushButton::Default);
     button->setFixedSize(width(), kButtonHeight);
-    const auto color = QStringLiteral("DB_COLOR_Custom_ComboBox_Font");
-    button->cSetFontColor(color, Custom::Normal);
-    button->cSetFontColor(color + QLatin1String("_Hover"), Custom::Hover);
-    button->cSetFontColor(color + QLatin1String("_Pressed"), Custom::Pressed);
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font"), Custom::Normal);
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Hover"), Custom::Hover);
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Pressed"), Custom::Pressed);
     view->setItemWidget(item, button);
     connect(button, &QAbstractButton::clicked, this, &CustomComboBox::onButtonClicked);
 }
