@@ -65,6 +65,8 @@ std::vector<FigureReporter::Figure> FigureReporter::figures() const
 {
     const double ours = nanoseconds("switch/zanthic/10000");
     const double button = nanoseconds("paint/button/zanthic");
+    const auto versusSheet
+        = [this](const std::string &row) { return ratio(nanoseconds(row + "/zanthic"), nanoseconds(row + "/sheet")); };
     return {
         { "switch_10000_times_faster_than_sheet", ratio(nanoseconds("switch/sheet/10000"), ours),
             "qApp->setStyleSheet / Custom::changeSkin, 10,000 buttons; at least 50" },
@@ -80,6 +82,18 @@ std::vector<FigureReporter::Figure> FigureReporter::figures() const
         { "paint_checkbox_vs_image_sheet",
             ratio(nanoseconds("paint/checkbox/zanthic"), nanoseconds("paint/checkbox/sheet_of_images")),
             "the same, against a sheet that draws ready images only" },
+        { "paint_combo_box_vs_sheet", versusSheet("paint/combo_box"),
+            "a combo box's paint / under a style sheet; at most 0.75" },
+        { "paint_slider_vs_sheet", versusSheet("paint/slider"),
+            "a slider's paint / under a style sheet; at most 0.75" },
+        { "paint_dot_slider_vs_sheet", versusSheet("paint/dot_slider"),
+            "one with dots and labels / a slider and three labels; at most 0.75" },
+        { "paint_two_handle_slider_vs_sheet", versusSheet("paint/two_handle_slider"),
+            "one with two handles and values / a slider drawn twice and two labels; at most 0.75" },
+        { "paint_process_slider_vs_sheet", versusSheet("paint/process_slider"),
+            "one with marker and value / a slider and a label; at most 0.75" },
+        { "drag_two_handles_vs_sheet", versusSheet("drag/two_handles"),
+            "a drag of 1,000 steps / on the slider drawn twice" },
         { "memory_kib_per_button", counter("memory/zanthic", "KiB_per_button"),
             "KiB for each painted button beyond a plain one; at most 2" },
         { "memory_kib_per_button_sheet", counter("memory/sheet", "KiB_per_button"), "the same with a style sheet" },
@@ -89,6 +103,8 @@ std::vector<FigureReporter::Figure> FigureReporter::figures() const
             "a step of a live resize / that of the dialog; at most 1" },
         { "menu_vs_sheet", ratio(nanoseconds("menu/zanthic"), nanoseconds("menu/sheet")),
             "a menu's first paint / under a style sheet; at most 1" },
+        { "spin_switch_1000_vs_plain", ratio(nanoseconds("spin/zanthic/1000"), nanoseconds("spin/plain/1000")),
+            "Custom::changeSkin and the repaint, 1,000 spin boxes / such as set the sheet plainly; about 1" },
         { "start_ms", nanoseconds("start/theme") / 1e6, "taking up the default theme" },
         { "read_ns", nanoseconds("read/own_key"), "one attribute by its own key" },
     };

@@ -54,6 +54,11 @@ QString Fixtures::equivalentSheet(bool dark)
                           "QCheckBox::indicator:checked { background-color: %1; border-color: %1;"
                           " image: url(:/Zanthic/Control/Menu_Tick.png); }"
                           "QCheckBox::indicator:checked:hover { background-color: %4; border-color: %4; }"
+                          "QComboBox { background-color: %9; border: 1px solid %10; border-radius: 4px; color: %8;"
+                          " font-size: 14px; padding-left: 7px; }"
+                          "QComboBox:hover { border-color: %4; }"
+                          "QComboBox::drop-down { border: 0px; width: 28px; }"
+                          "QComboBox::down-arrow { image: url(:/Zanthic/Control/Arrow_down.png); }"
                           "QMenu { background-color: %9; border: 1px solid %10; border-radius: 4px; padding: 6px 3px; }"
                           "QMenu::item { color: %8; font-size: 14px; height: 30px; padding: 0px 30px; }"
                           "QMenu::item:selected { background-color: %4; }")

@@ -12,8 +12,8 @@ namespace Fixtures {
 
 /// Takes up the light skin of the default theme, and one plain font for the controls and the whole application.
 void useTheme();
-/// A style sheet that gives plain Qt buttons, check boxes and menus the look of the default theme. \p dark chooses the
-/// skin.
+/// A style sheet that gives plain Qt buttons, check boxes, combo boxes and menus the look of the default theme. \p dark
+/// chooses the skin.
 QString equivalentSheet(bool dark);
 /// A style sheet that paints the whole indicator of a check box from the theme's ready images: the cheapest sheet
 /// there is.

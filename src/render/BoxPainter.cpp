@@ -46,12 +46,13 @@ void readColors(const CustomObjectData &data, const ResolvedStyle &style, const 
     }
 }
 
-void fillBackground(const CustomObjectData &data, const ResolvedStyle &style, QPainter *painter, const QRect &rect)
+void fillBackground(const CustomObjectData &data, const ResolvedStyle &style, QPainter *painter, const QRect &rect,
+    const ParsedBrush &brush)
 {
     const QRect scale = rect.isEmpty() && data.widget ? data.widget->rect() : rect;
     CustomObjectData::BorderParameter parameter;
     readMetrics(data, style, &parameter);
-    BoxPainter::fillBox(painter, rect, parameter, style.background.scaledTo(scale));
+    BoxPainter::fillBox(painter, rect, parameter, brush.scaledTo(scale));
 }
 
 Qt::Alignment imageAlignment(const QString &text)
@@ -93,26 +94,31 @@ void drawBorderImage(
 
 } // namespace
 
+bool BoxPainter::drawBackground(const CustomObjectData &data, const ResolvedStyle &style, QPainter *painter,
+    const QRect &rect, const ParsedBrush *fill)
+{
+    bool painted = false;
+    if (fill || data.hasParameter(Custom::ParamBackgroundColor)) {
+        fillBackground(data, style, painter, rect, fill ? *fill : style.background);
+        painted = true;
+    } else if (data.hasParameter(Custom::ParamBaseBackgroundImage)) {
+        style.baseBackgroundImage.draw(painter, rect);
+    }
+    if (data.hasParameter(Custom::ParamBackgroundImage)) {
+        const QRect target
+            = QStyle::alignedRect(Qt::LeftToRight, imageAlignment(style.alignment), style.backgroundImage.size(), rect);
+        style.backgroundImage.draw(painter, target);
+        painted = true;
+    }
+    return painted;
+}
+
 bool CustomObject::cDrawBackground(
     QPainter *painter, const QRect &rect, Custom::ItemStatus status, const QStringList &selectors)
 {
     if (!d || !isUsable(painter))
         return false;
-    const std::shared_ptr<const ResolvedStyle> style = d->resolved(status, selectors);
-    bool painted = false;
-    if (d->hasParameter(Custom::ParamBackgroundColor)) {
-        fillBackground(*d, *style, painter, rect);
-        painted = true;
-    } else if (d->hasParameter(Custom::ParamBaseBackgroundImage)) {
-        style->baseBackgroundImage.draw(painter, rect);
-    }
-    if (d->hasParameter(Custom::ParamBackgroundImage)) {
-        const QRect target = QStyle::alignedRect(
-            Qt::LeftToRight, imageAlignment(style->alignment), style->backgroundImage.size(), rect);
-        style->backgroundImage.draw(painter, target);
-        painted = true;
-    }
-    return painted;
+    return BoxPainter::drawBackground(*d, *d->resolved(status, selectors), painter, rect);
 }
 
 bool CustomObject::cDrawBorder(

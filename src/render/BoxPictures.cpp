@@ -2,6 +2,7 @@
 
 #include "render/BorderGeometry_p.h"
 #include "render/BoxPainter_p.h"
+#include "render/PainterTools_p.h"
 
 #include <QtCore/QCache>
 #include <QtCore/QSet>
@@ -21,6 +22,10 @@ constexpr int kMaxScale = 4;
 constexpr int kTinyArc = 2; // device pixels
 constexpr int kMaxSeen = 256;
 constexpr int kKeptArcs = 512;
+constexpr int kKeptEllipses = 64;
+// px; the coverage of a smaller one depends on its place, a larger one is worth no picture.
+constexpr int kMinEllipse = 4;
+constexpr int kMaxEllipse = 64;
 
 // All that the outline of a box depends on.
 struct OutlineKey
@@ -139,6 +144,66 @@ QImage findFill(const FillKey &key, const Parameter &parameter, const QColor &co
     return image;
 }
 
+struct EllipseKey
+{
+    QSize size;
+    quint64 color;
+    int scale;
+    bool fill;
+};
+
+bool operator==(const EllipseKey &a, const EllipseKey &b)
+{
+    return a.size == b.size && a.color == b.color && a.scale == b.scale && a.fill == b.fill;
+}
+
+uint qHash(const EllipseKey &key, uint seed = 0)
+{
+    return qHashBits(&key.size, sizeof key.size, seed) ^ ::qHash(key.color, seed) ^ uint(key.scale * 2 + key.fill);
+}
+
+void paintEllipse(QPainter *painter, const QRect &rect, const QColor &color, bool fill)
+{
+    QPainterPath path;
+    path.addEllipse(rect);
+    if (!fill) {
+        // One fill of the outline: a pen of 1 px blends where its segments meet.
+        QPainterPathStroker stroker;
+        stroker.setWidth(1.0);
+        path = stroker.createStroke(path);
+    }
+    const HintGuard guard(painter, QPainter::Antialiasing);
+    painter->fillPath(path, color);
+}
+
+// With a margin of 1 px for the pen.
+QImage ellipsePicture(const EllipseKey &key, const QColor &color)
+{
+    static QCache<EllipseKey, QImage> s_Pictures(kKeptEllipses);
+    if (const QImage *known = s_Pictures.object(key))
+        return *known;
+    QImage image((key.size + QSize(2, 2)) * key.scale, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.scale(key.scale, key.scale);
+    paintEllipse(&painter, QRect(QPoint(1, 1), key.size), color, key.fill);
+    painter.end();
+    s_Pictures.insert(key, new QImage(image));
+    return image;
+}
+
+void drawPicture(QPainter *painter, const QPoint &topLeft, const QImage &picture, int scale)
+{
+    if (scale == 1) {
+        painter->drawImage(topLeft, picture);
+        return;
+    }
+    const QTransform world = painter->worldTransform();
+    painter->scale(1.0 / scale, 1.0 / scale);
+    painter->drawImage(topLeft * scale, picture);
+    painter->setWorldTransform(world);
+}
+
 QPainterPath arcPath(const BorderLayout::Arc &arc)
 {
     // As QPainter::drawArc() makes it.
@@ -182,15 +247,20 @@ bool BoxPictures::drawFill(QPainter *painter, const QRect &rect, const Parameter
     const QImage picture = findFill(key, parameter, color);
     if (picture.isNull())
         return false;
-    if (scale == 1) {
-        painter->drawImage(rect.topLeft(), picture);
-        return true;
-    }
-    const QTransform world = painter->worldTransform();
-    painter->scale(1.0 / scale, 1.0 / scale);
-    painter->drawImage(rect.topLeft() * scale, picture);
-    painter->setWorldTransform(world);
+    drawPicture(painter, rect.topLeft(), picture, scale);
     return true;
+}
+
+void BoxPictures::drawEllipse(QPainter *painter, const QRect &rect, const QColor &color, bool fill)
+{
+    const int scale = pixelExactScale(painter);
+    if (!BoxPainter::arePicturesEnabled() || scale == 0 || qMin(rect.width(), rect.height()) < kMinEllipse
+        || qMax(rect.width(), rect.height()) > kMaxEllipse) {
+        paintEllipse(painter, rect, color, fill);
+        return;
+    }
+    const EllipseKey key{ rect.size(), quint64(color.rgba64()), scale, fill };
+    drawPicture(painter, rect.topLeft() - QPoint(1, 1), ellipsePicture(key, color), scale);
 }
 
 std::shared_ptr<const Arcs> BoxPictures::arcs(const QRect &rect, const Parameter &parameter)

@@ -21,4 +21,8 @@ bool drawFill(QPainter *painter, const QRect &rect, const Parameter &parameter, 
 using Arcs = std::array<std::array<QPainterPath, 2>, 4>;
 std::shared_ptr<const Arcs> arcs(const QRect &rect, const Parameter &parameter);
 
+/// Strokes the ellipse in \p rect with a pen of 1 px, or fills it, antialiased. For small ones that come often: they
+/// are kept as pictures by size and colour.
+ZANTHIC_TEST_EXPORT void drawEllipse(QPainter *painter, const QRect &rect, const QColor &color, bool fill);
+
 } // namespace BoxPictures

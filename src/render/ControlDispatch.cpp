@@ -144,7 +144,8 @@ void CustomObject::cDrawWidget(
     case Custom::WidgetDotSlider:
     case Custom::WidgetTwoHandleSlider:
     case Custom::WidgetProcessSlider:
-        // These have no painter of their own in this version and are plain boxes.
+        cDrawSlider(type, painter, rect, option, d->widget);
+        break;
     default:
         cDrawBackground(painter, rect, Custom::Normal, {});
         cDrawBorder(painter, rect, Custom::Normal, {});

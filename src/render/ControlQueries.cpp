@@ -1,5 +1,7 @@
 #include "render/ControlQueries_p.h"
 
+#include "composite/CustomDrawSlider_p.h"
+
 #include <Zanthic/CustomCheckBox.h>
 #include <Zanthic/CustomPushButton.h>
 #include <Zanthic/CustomRadioButton.h>
@@ -34,4 +36,11 @@ bool ControlQueries::hasMenu(const QWidget *widget)
 {
     const auto *button = dynamic_cast<const CustomPushButton *>(widget);
     return button && button->menu();
+}
+
+CustomDrawSliderOption *ControlQueries::sliderOption(const QWidget *widget, QStyleOption *option)
+{
+    const auto *slider = dynamic_cast<const CustomDrawSlider *>(widget);
+    CustomDrawSliderPrivate *d = CustomDrawSliderPrivate::get(slider);
+    return d && option == &d->option ? &d->option : nullptr;
 }

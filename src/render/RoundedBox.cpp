@@ -24,6 +24,12 @@ bool hasRadius(const Parameter &parameter)
     return false;
 }
 
+// Most controls without a background of their own say so by a transparent colour.
+bool isInvisible(const QBrush &brush)
+{
+    return brush.style() == Qt::NoBrush || (brush.style() == Qt::SolidPattern && brush.color().alpha() == 0);
+}
+
 // One edge without its corners, as Custom::cDrawEdge() draws a solid one.
 void drawEdge(QPainter *painter, const BorderLayout::EdgeJob &job, const QBrush &brush)
 {
@@ -43,6 +49,11 @@ void BoxPainter::setPicturesEnabled(bool on)
     g_bPicturesEnabled = on;
 }
 
+bool BoxPainter::arePicturesEnabled()
+{
+    return g_bPicturesEnabled;
+}
+
 QPainterPath BoxPainter::clipPath(const QRect &rect, const Parameter &parameter)
 {
     return Custom::cBorderClip(rect, parameter.borders.data(), parameter.radii.data());
@@ -50,6 +61,8 @@ QPainterPath BoxPainter::clipPath(const QRect &rect, const Parameter &parameter)
 
 void BoxPainter::fillBox(QPainter *painter, const QRect &rect, const Parameter &parameter, const QBrush &brush)
 {
+    if (isInvisible(brush) && painter->compositionMode() == QPainter::CompositionMode_SourceOver)
+        return;
     if (!hasRadius(parameter)) {
         painter->fillRect(rect, brush);
         return;

@@ -183,6 +183,8 @@ protected:
         Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option, QWidget *widget);
     void cDrawComboBox(
         Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option, QWidget *widget);
+    void cDrawSlider(
+        Custom::CustomWidgetType type, QPainter *painter, const QRect &rect, QStyleOption *option, QWidget *widget);
 
     friend class CustomObjectData;
 };

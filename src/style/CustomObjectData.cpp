@@ -119,12 +119,17 @@ void CustomObjectData::drop()
 
 std::shared_ptr<const ResolvedStyle> CustomObjectData::resolved(Custom::ItemStatus status, const QStringList &subs)
 {
+    return resolvedStyles().get(*this, status, subs);
+}
+
+ResolvedStyles &CustomObjectData::resolvedStyles()
+{
     initData();
     if (m_pTable && localValues.isEmpty())
-        return m_pTable->resolved().get(*this, status, subs);
+        return m_pTable->resolved();
     if (!m_pOwnResolved)
         m_pOwnResolved = std::make_unique<ResolvedStyles>();
-    return m_pOwnResolved->get(*this, status, subs);
+    return *m_pOwnResolved;
 }
 
 void CustomObjectData::forgetResolved()

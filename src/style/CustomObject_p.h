@@ -48,6 +48,12 @@ public:
 
     /// What the painters read, from the shared table where this control overrides nothing.
     std::shared_ptr<const ResolvedStyle> resolved(Custom::ItemStatus status, const QStringList &subs);
+    /// What the painter of one kind of control reads beyond that, kept in the same way.
+    template <typename Extra>
+    std::shared_ptr<const Extra> resolvedExtra()
+    {
+        return resolvedStyles().template extra<Extra>(*this);
+    }
 
     void borderParameter(CustomObject *object, BorderParameter *parameter, const QRect &rect, Custom::ItemStatus status,
         const QStringList &selectors);
@@ -65,6 +71,7 @@ public:
     QMap<int, QPair<QRect, QBrush>> colorRects;
 
 private:
+    ResolvedStyles &resolvedStyles();
     // A private memo has to be made anew after each change of a value.
     void forgetResolved();
 

@@ -80,14 +80,20 @@ const QFont &ResolvedStyle::font() const
     return m_oFont;
 }
 
+void ResolvedStyles::dropOutdated()
+{
+    if (m_nRevision == CustomStyleSheetData::revision())
+        return;
+    m_plain.fill(nullptr);
+    m_lstOthers.clear();
+    m_pExtra.reset();
+    m_nRevision = CustomStyleSheetData::revision();
+}
+
 std::shared_ptr<const ResolvedStyle> ResolvedStyles::get(
     const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs)
 {
-    if (m_nRevision != CustomStyleSheetData::revision()) {
-        m_plain.fill(nullptr);
-        m_lstOthers.clear();
-        m_nRevision = CustomStyleSheetData::revision();
-    }
+    dropOutdated();
     // A number that is no status has no word in the key: it reads what Normal reads.
     const bool known = status >= Custom::Normal && status <= Custom::Disabled;
     const Custom::ItemStatus asked = known ? status : Custom::Normal;

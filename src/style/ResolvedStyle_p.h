@@ -61,8 +61,23 @@ class ResolvedStyles
 public:
     std::shared_ptr<const ResolvedStyle> get(
         const CustomObjectData &data, Custom::ItemStatus status, const QStringList &subs);
+    /// What a painter of its own reads, as an object that is made from the data. One kind is kept at a time: a table
+    /// serves one class of controls.
+    template <typename Extra>
+    std::shared_ptr<const Extra> extra(const CustomObjectData &data)
+    {
+        static const char s_Kind = 0;
+        dropOutdated();
+        if (!m_pExtra || m_pExtraKind != &s_Kind) {
+            m_pExtra = std::make_shared<const Extra>(data);
+            m_pExtraKind = &s_Kind;
+        }
+        return std::static_pointer_cast<const Extra>(m_pExtra);
+    }
 
 private:
+    void dropOutdated();
+
     struct Entry
     {
         Custom::ItemStatus status;
@@ -73,4 +88,6 @@ private:
     quint64 m_nRevision = 0;
     std::array<std::shared_ptr<const ResolvedStyle>, 4> m_plain; // without sub-selectors, by status
     std::vector<Entry> m_lstOthers;
+    std::shared_ptr<const void> m_pExtra;
+    const void *m_pExtraKind = nullptr;
 };

@@ -13,6 +13,21 @@
     </message>
 </context>
 <context>
+    <name>CustomDrawSlider</name>
+    <message>
+        <source>Low</source>
+        <translation>低</translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation>中</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+</context>
+<context>
     <name>CustomDockTitleBar</name>
     <message>
         <source>Close</source>

@@ -1,3 +1,4 @@
+#include "composite/CustomDrawSlider_p.h"
 #include "style/StyleHost.h"
 #include "support/Probe.h"
 
@@ -22,12 +23,60 @@ struct Sheet
     QVector<QStyle::State> states; // of the cells
 };
 
+QWidget *madeSlider(int kind, int variant, Custom::CommonStyleSelector selector)
+{
+    CustomDrawSlider *slider = nullptr;
+    if (kind == 1)
+        slider = new CustomDotSlider;
+    else if (kind == 2)
+        slider = new CustomTwoHandleSlider;
+    else
+        slider = kind == 3 ? new CustomProcessSlider : new CustomDrawSlider;
+    slider->cSetStyleSelector(selector);
+    CustomDrawSliderOption &option = CustomDrawSliderPrivate::get(slider)->option;
+    option.value = 70;
+    option.secondValue = 30;
+    option.handlePressed = variant == 1;
+    option.handlePos = 0.7;
+    option.reverse = variant == 1;
+    if (variant == 2 && kind == 0)
+        slider->cSetShowTextTip(true, { "Min"_s, "Max"_s }, CustomDrawSlider::TextBeside);
+    option.showToolTip = option.showToolTip || variant == 2;
+    slider->setDisabled(variant == 3);
+    return slider;
+}
+
+// A row of buttons, of dots, and a number in two ways.
+QWidget *madeRow(int kind, Custom::CommonStyleSelector selector)
+{
+    if (kind == 0) {
+        auto *row = new CustomSwitchButton;
+        row->cSetStyleSelector(selector);
+        row->cSetButtonNames({ "A"_s, "B"_s, "C"_s });
+        return row;
+    }
+    if (kind == 1) {
+        auto *dots = new CustomDotSelector;
+        dots->cSetDotNumber(4);
+        dots->cSetCurrentDot(selector);
+        return dots;
+    }
+    auto *number = new CustomSpinBox64(nullptr, selector);
+    number->setRange(-99, 99);
+    number->setValue(-42);
+    number->setDisabled(kind == 3);
+    return number;
+}
+
 QVector<Sheet> sheets()
 {
     QVector<Sheet> result{ { "push-button"_s, Custom::WidgetPushButton, 8, {}, {} },
         { "check-box"_s, Custom::WidgetCheckBox, 4, {}, {} },
-        { "radio-button"_s, Custom::WidgetRadioButton, 4, {}, {} }, { "box"_s, Custom::WidgetGeneric, 4, {}, {} } };
+        { "radio-button"_s, Custom::WidgetRadioButton, 4, {}, {} }, { "box"_s, Custom::WidgetGeneric, 4, {}, {} },
+        { "combo-box"_s, Custom::WidgetComboBox, 4, {}, {} }, { "slider"_s, Custom::WidgetDrawSlider, 4, {}, {} },
+        { "row"_s, Custom::WidgetGeneric, 4, {}, {} } };
     const auto add = [&](int sheet, QWidget *control, QStyle::State state) {
+        control->resize(kPlace.size());
         result[sheet].cells.append(std::shared_ptr<QWidget>(control));
         result[sheet].states.append(state);
     };
@@ -54,17 +103,40 @@ QVector<Sheet> sheets()
         dynamic_cast<CustomObject *>(box)->cSetStyleSelector(Custom::CommonStyleSelector(i / 4 % 3));
         add(3, box, kStates[i % 4]);
     }
+    for (int i = 0; i < 12; ++i) {
+        auto *comboBox = new CustomComboBox(nullptr, CustomComboBox::StyleSelector(i / 4));
+        comboBox->addItem("Combo box"_s);
+        add(4, comboBox, kStates[i % 4]);
+    }
+    // Each kind in a row, then two of them in the other selectors: at rest, dragged, with texts, disabled.
+    for (int i = 0; i < 32; ++i)
+        add(5, madeSlider(i / 4 % 4, i % 4, Custom::CommonStyleSelector(qMax(0, i / 8 - 1))),
+            kStates[i % 4 == 3 ? 3 : 0]);
+    for (int i = 0; i < 12; ++i)
+        add(6, madeRow(i % 4, Custom::CommonStyleSelector(i / 4)), kNormal);
     return result;
 }
 
 // A generic control is painted at rest whatever its state, so that a plain box is painted by its two halves.
 void paintControl(QPainter *painter, Custom::CustomWidgetType type, QWidget *control, QStyle::State state)
 {
+    if (!qobject_cast<QAbstractButton *>(control) && !qobject_cast<QComboBox *>(control)
+        && control->metaObject() != &CustomWidget::staticMetaObject && !qobject_cast<CustomFrame *>(control)) {
+        control->render(painter, QPoint(), QRegion(), QWidget::DrawChildren);
+        return;
+    }
     auto &object = dynamic_cast<CustomObject &>(*control);
     QStyleOptionButton option;
     option.initFrom(control);
     option.state = state;
     option.rect = QRect(QPoint(0, 0), kPlace.size());
+    if (const auto *comboBox = qobject_cast<CustomComboBox *>(control)) {
+        QStyleOptionComboBox comboOption;
+        comboBox->initComboBoxOption(&comboOption);
+        comboOption.state = state;
+        object.cDrawWidget(type, painter, option.rect, &comboOption);
+        return;
+    }
     if (const auto *button = qobject_cast<QAbstractButton *>(control)) {
         option.text = button->text();
         option.icon = button->icon();

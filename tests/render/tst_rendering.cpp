@@ -1,5 +1,6 @@
 #include "render/BorderGeometry_p.h"
 #include "render/BoxPainter_p.h"
+#include "render/BoxPictures_p.h"
 #include "style/StyleHost.h"
 #include "support/Probe.h"
 
@@ -128,6 +129,25 @@ class RenderingTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void ellipsesOfPictures()
+    {
+        const QImage background = ground(QSize(64, 64), QImage::Format_ARGB32_Premultiplied);
+        QRandomGenerator random(3);
+        for (int i = 0; i < 2000; ++i) {
+            const QRect rect(random.bounded(60), random.bounded(60), random.bounded(1, 20), random.bounded(1, 20));
+            const QColor color = randomColor(&random);
+            const int scale = random.bounded(1, 3);
+            QImage images[] = { background, background };
+            for (const bool pictures : { false, true }) {
+                BoxPainter::setPicturesEnabled(pictures);
+                QPainter painter(&images[pictures]);
+                painter.scale(scale, scale);
+                BoxPictures::drawEllipse(&painter, rect, color, i % 2);
+            }
+            QVERIFY2(images[0] == images[1], qPrintable(QString::number(i)));
+        }
+    }
+
     void layersAndPlaces_data() { addRowsOf("render/boxes.txt"_s); }
     void layersAndPlaces()
     {

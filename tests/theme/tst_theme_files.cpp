@@ -138,18 +138,27 @@ private:
             QCOMPARE(host.cBorderWidth(Custom::AllEdge, status), 1);
             QCOMPARE(host.cBorderRadius(Custom::AllCorner, status), 4);
         }
-        if (cell("class") != "CustomPushButton"_s)
+        if (!m_bControl)
             return;
         m_lstLooks += (Custom::color2String(background) + text.name() + border.name()).toLatin1();
         for (const auto &page : { skinColor("Window_Background"_s), skinColor("Surface"_s) }) {
             const QColor fill = over(background, page);
-            const QColor edge = over(border, fill);
+            const QColor edge = host.cHasParameter(Custom::ParamBorderWidth) ? over(border, fill) : fill;
             requireContrast(text, fill, status == Custom::Disabled ? 1 : kTextContrast);
             // A border in the colour of the fill is no line of its own.
             requireContrast(edge, page, status == Custom::Disabled || edge == fill ? 1 : kIndicatorContrast);
         }
     }
 
+    // Styled as the row says: a class, or an outer class and the one in it.
+    std::unique_ptr<StyleHost> hostOf(const QString &selector)
+    {
+        auto host = std::make_unique<StyleHost>(cell("class").section('/', -1), selector);
+        host->cSetParentClassName(cell("class").section('/', -2, -2));
+        return host;
+    }
+
+    bool m_bControl = false; // what is styled has a text and statuses
     QList<QByteArray> m_lstLooks; // of all statuses, each to be told from the others
 
 private Q_SLOTS:
@@ -206,6 +215,12 @@ private Q_SLOTS:
                 QString text = element.section(' ', 2);
                 const bool isPath = text.startsWith(':');
                 const bool isColor = !isPath && !text.isEmpty() && element.section(' ', 0, 0).contains("Color"_s);
+                // The dots know no skin colours: one colour serves all skins.
+                if (element.contains(QRegularExpression("^(Lint|NormalDot|SelectDot)Color "_s))) {
+                    for (const auto &page : { skinColor("Window_Background"_s), skinColor("Surface"_s) })
+                        requireContrast(QColor(text), page, kIndicatorContrast);
+                    continue;
+                }
                 QVERIFY2(!isColor || text.startsWith("DB_COLOR_"_s), qPrintable(element));
                 QVERIFY2(!isColor || Custom::string2Color(text).isValid(), qPrintable(element));
                 QVERIFY2(!isPath || QFile::exists(text), qPrintable(element));
@@ -242,12 +257,38 @@ private Q_SLOTS:
         }
     }
 
+    void fieldsStandInLine()
+    {
+        QVERIFY(ZanthicTheme::applySkin("light"_s));
+        QSpinBox spin;
+        spin.setStyleSheet(Custom::styleSheet(Custom::SheetSpinBox));
+        QLineEdit edit;
+        edit.setStyleSheet(QString(Custom::styleSheet(Custom::SheetLineEdit)).replace("*PaddingLeft*"_s, "0"_s));
+        QCOMPARE(spin.sizeHint().height(), 32);
+        QCOMPARE(edit.sizeHint().height(), 32);
+        spin.resize(100, 32);
+        spin.ensurePolished();
+        QStyleOptionSpinBox option;
+        option.initFrom(&spin);
+        option.subControls = QStyle::SC_All;
+        const auto place = [&](QStyle::SubControl part) {
+            return spin.style()->subControlRect(QStyle::CC_SpinBox, &option, part, &spin);
+        };
+        // The inner field adds 2 px in front of its text, which so begins 8 px from the edge like that of a combo box.
+        QCOMPARE(place(QStyle::SC_SpinBoxEditField), QRect(6, 5, 64, 22));
+        // With a margin of 1 px at the edge the arrows stand 14 px from it, as the one of a combo box does.
+        QCOMPARE(place(QStyle::SC_SpinBoxUp), QRect(73, 0, 27, 16));
+        QCOMPARE(place(QStyle::SC_SpinBoxDown), QRect(73, 16, 27, 16));
+    }
+
     void selectorsReadWell_data() { addRowsOf("cases/selectors.txt"_s, { "skin", "class", "selector", "parts" }); }
     void selectorsReadWell()
     {
         QVERIFY(ZanthicTheme::applySkin(cell("skin")));
-        const auto base = Custom::getAttrMap(cell("class").toLower(), "default"_s);
-        const auto own = Custom::getAttrMap(cell("class").toLower(), cell("selector").toLower());
+        const QString name = cell("class").toLower().section('/', -1);
+        const QString outer = cell("class").toLower().section('/', -2, -2);
+        const auto base = Custom::getAttrMap(name, "default"_s, outer);
+        const auto own = Custom::getAttrMap(name, cell("selector").toLower(), outer);
         QVERIFY(!own.isEmpty());
         // A selector that gives a new Normal but leaves out Hover would get the Hover of Default.
         for (const QString &key : own.keys()) {
@@ -255,40 +296,39 @@ private Q_SLOTS:
                 QVERIFY2(!base.contains(key + status) || own.contains(key + status), qPrintable(key + status));
         }
         m_lstLooks.clear();
-        const StyleHost host(cell("class"), cell("selector"));
+        m_bControl = name == "custompushbutton"_s || name == "customcombobox"_s;
+        const auto host = hostOf(cell("selector"));
         for (Custom::ItemStatus status : { Custom::Normal, Custom::Hover, Custom::Pressed, Custom::Disabled }) {
             if (list("parts").isEmpty())
-                checkBox(host, status);
+                checkBox(*host, status);
             for (const QString &part : list("parts"))
-                checkIndicator(host, status, part);
+                checkIndicator(*host, status, part);
         }
         QCOMPARE(QSet<QByteArray>(m_lstLooks.begin(), m_lstLooks.end()).size(), m_lstLooks.size());
     }
 
-    void imageButtonsReadWell_data()
+    void statusImagesReadWell_data()
     {
-        addRowsOf("cases/image-buttons.txt"_s, { "outer", "selectors", "height", "pages" });
+        addRowsOf("cases/status-images.txt"_s, { "class", "key", "selectors", "width", "height", "pages", "looks" });
     }
-    void imageButtonsReadWell()
+    void statusImagesReadWell()
     {
-        const auto statuses = { Custom::Normal, Custom::Hover, Custom::Pressed, Custom::Disabled };
         for (const QString &skin : ZanthicTheme::skins()) {
             QVERIFY(ZanthicTheme::applySkin(skin));
             for (const QString &selector : list("selectors")) {
-                StyleHost host("CustomPushButton"_s, selector);
-                host.cSetParentClassName(cell("outer"));
-                QVERIFY(host.cHasParameter(Custom::ParamBackgroundImage));
+                const auto host = hostOf(selector);
+                QVERIFY(host->cHasParameter(Custom::ParamBackgroundImage) || cell("key") == "HandleImage"_s);
                 QSet<QByteArray> looks;
-                for (Custom::ItemStatus status : statuses) {
-                    const QString path = host.cBackgroundImage(status);
+                for (Custom::ItemStatus status : { Custom::Normal, Custom::Hover, Custom::Pressed, Custom::Disabled }) {
+                    const QString path = host->cAttributeValue(cell("key"), status);
                     looks += bytes(path);
-                    QCOMPARE(QImage(path).size(), QSize(32, int(number("height"))));
+                    QCOMPARE(QImage(path).size(), QSize(int(number("width")), int(number("height"))));
                     for (const QString &page : list("pages")) {
                         const double mark = markContrast(QImage(path), skinColor(page));
                         QVERIFY2(status == Custom::Disabled || mark >= kIndicatorContrast, qPrintable(path));
                     }
                 }
-                QCOMPARE(looks.size(), int(statuses.size()));
+                QCOMPARE(looks.size(), int(number("looks")));
             }
         }
     }
