@@ -13,6 +13,8 @@
 #include <Zanthic/CustomPushButton.h>
 
 #include <QtCore/QTimer>
+#include <QtGui/QCursor>
+#include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStylePainter>
@@ -216,11 +218,16 @@ void CustomComboBoxPrivate::runPopup()
 
 void CustomComboBoxPrivate::dropPressedLook() const
 {
+    const QPointer<CustomComboBox> self(q);
+    // The pointer may have left it while the popup had all events.
+    if (q->underMouse() && !q->rect().contains(q->mapFromGlobal(QCursor::pos()))) {
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(q, &leave);
+    }
     // The application may have disabled it meanwhile.
-    if (q->testAttribute(Qt::WA_ForceDisabled))
+    if (!self || self->testAttribute(Qt::WA_ForceDisabled))
         return;
     const bool hadFocus = q->window()->focusWidget() == q;
-    const QPointer<CustomComboBox> self(q);
     q->setEnabled(false);
     if (!self)
         return;
@@ -240,7 +247,9 @@ void CustomComboBoxPrivate::placeList()
         if (button)
             button->setFixedWidth(q->width());
     }
-    window->move(window->pos() + QPoint(0, kListDistance));
+    // A long list reaches down to the end of the screen, and what scrolls it on has to stay there.
+    const int room = window->screen()->availableGeometry().bottom() - window->geometry().bottom();
+    window->move(window->pos() + QPoint(0, qBound(0, room, kListDistance)));
 }
 
 void CustomComboBoxPrivate::measureTexts()
@@ -338,10 +347,9 @@ void CustomComboBox::cAddButtonItem(QString text)
     button->setFixedSize(width(), kButtonHeight);
     view->setItemWidget(item, button);
     // The first read gives the button its font, which the list's sheet would take away when it comes into the list.
-    const auto color = QStringLiteral("DB_COLOR_Custom_ComboBox_Font");
-    button->cSetFontColor(color, Custom::Normal);
-    button->cSetFontColor(color + QLatin1String("_Hover"), Custom::Hover);
-    button->cSetFontColor(color + QLatin1String("_Pressed"), Custom::Pressed);
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font"), Custom::Normal);
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Hover"), Custom::Hover);
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Pressed"), Custom::Pressed);
     d->buttonRows.append(button);
     connect(button, &QAbstractButton::clicked, this, &CustomComboBox::onButtonClicked);
 }
