@@ -59,8 +59,8 @@ void CustomSliderSpinBoxPrivate::createPopup()
     m_pPopup->cSetTitleVisible(false);
     m_pPopup->cSetBorderWidth(0, Custom::AllEdge, Custom::Normal);
     m_pPopup->cSetBorderRadius(0, Custom::AllCorner, Custom::Normal);
-    // A window manager would give it the keys, away from the spin box that has just got them.
-    m_pPopup->setAttribute(Qt::WA_ShowWithoutActivating);
+    // The keys stay with the spin box, whose coming by them has opened the popup.
+    m_pPopup->setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     m_pSlider = new CustomProcessSlider(m_pPopup);
     m_pSlider->setFixedHeight(Popup_SliderHeight);
     m_pPopup->cSetCentralWidget(m_pSlider);
@@ -257,7 +257,8 @@ bool CustomSliderSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
     const QPointer<QObject> guard(this);
     if (hides)
         HideSlider();
-    return guard && QObject::eventFilter(watched, event);
+    // With the control its window may be gone, too.
+    return !guard || QObject::eventFilter(watched, event);
 }
 
 CustomSliderSpinBox::CustomSliderSpinBox(QWidget *parent, Custom::CommonStyleSelector selector, SliderPosition position)

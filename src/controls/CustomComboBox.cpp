@@ -13,7 +13,10 @@
 #include <Zanthic/CustomPushButton.h>
 
 #include <QtCore/QTimer>
+#include <QtGui/QCursor>
+#include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStylePainter>
 
 #include <utility>
@@ -25,6 +28,7 @@ constexpr int kListDistance = 6; // below where Qt places it
 constexpr int kPopupDistance = 4; // below the last row of pixels
 constexpr int kListTextMargin = 6;
 constexpr int kButtonHeight = 30;
+constexpr int kFieldMargin = 4; // brings the text of an editable combo box where that of others begins
 
 QString matchComboSelector(CustomComboBox::StyleSelector selector)
 {
@@ -97,6 +101,23 @@ void CustomComboBoxPrivate::setSheet()
 {
     if (themedView)
         themedView->setStyleSheet(Custom::styleSheet(Custom::SheetListView));
+}
+
+// Qt's field keeps the colours of the platform otherwise. One that the application has coloured keeps them.
+void CustomComboBoxPrivate::colorField()
+{
+    QLineEdit *edit = q->lineEdit();
+    if (!edit || (edit != coloredField && edit->testAttribute(Qt::WA_SetPalette)))
+        return;
+    coloredField = edit;
+    QPalette colors = edit->palette();
+    colors.setColor(QPalette::Base, Qt::transparent);
+    for (const QPalette::ColorGroup group : { QPalette::Active, QPalette::Inactive, QPalette::Disabled })
+        colors.setColor(
+            group, QPalette::Text, q->cFontColor(group == QPalette::Disabled ? Custom::Disabled : Custom::Normal));
+    edit->setPalette(colors);
+    if (edit->textMargins().isNull())
+        edit->setTextMargins(kFieldMargin, 0, 0, 0);
 }
 
 QString CustomComboBoxPrivate::multiText() const
@@ -197,11 +218,16 @@ void CustomComboBoxPrivate::runPopup()
 
 void CustomComboBoxPrivate::dropPressedLook() const
 {
+    const QPointer<CustomComboBox> self(q);
+    // The pointer may have left it while the popup had all events.
+    if (q->underMouse() && !q->rect().contains(q->mapFromGlobal(QCursor::pos()))) {
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(q, &leave);
+    }
     // The application may have disabled it meanwhile.
-    if (q->testAttribute(Qt::WA_ForceDisabled))
+    if (!self || self->testAttribute(Qt::WA_ForceDisabled))
         return;
     const bool hadFocus = q->window()->focusWidget() == q;
-    const QPointer<CustomComboBox> self(q);
     q->setEnabled(false);
     if (!self)
         return;
@@ -216,7 +242,14 @@ void CustomComboBoxPrivate::placeList()
     if (!window)
         return;
     window->setFixedWidth(qMax(q->width() + kListExtraWidth, q->sizeHint().width()));
-    window->move(window->pos() + QPoint(0, kListDistance));
+    // The combo box may have been laid out since they were added.
+    for (const QPointer<CustomPushButton> &button : qAsConst(buttonRows)) {
+        if (button)
+            button->setFixedWidth(q->width());
+    }
+    // A long list reaches down to the end of the screen, and what scrolls it on has to stay there.
+    const int room = window->screen()->availableGeometry().bottom() - window->geometry().bottom();
+    window->move(window->pos() + QPoint(0, qBound(0, room, kListDistance)));
 }
 
 void CustomComboBoxPrivate::measureTexts()
@@ -252,6 +285,7 @@ CustomComboBox::~CustomComboBox()
 void CustomComboBox::cSetComboBoxStyleSelector(StyleSelector selector)
 {
     cSetStyleSelector(matchComboSelector(selector));
+    d->colorField();
     if (d->isMulti)
         cSetMultiCheckItems(d->multiItems);
 }
@@ -311,11 +345,12 @@ void CustomComboBox::cAddButtonItem(QString text)
     view->addItem(item);
     auto *button = new CustomPushButton(text, this, CustomPushButton::Default);
     button->setFixedSize(width(), kButtonHeight);
-    const auto color = QStringLiteral("DB_COLOR_Custom_ComboBox_Font");
-    button->cSetFontColor(color, Custom::Normal);
-    button->cSetFontColor(color + QLatin1String("_Hover"), Custom::Hover);
-    button->cSetFontColor(color + QLatin1String("_Pressed"), Custom::Pressed);
     view->setItemWidget(item, button);
+    // The first read gives the button its font, which the list's sheet would take away when it comes into the list.
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font"), Custom::Normal);
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Hover"), Custom::Hover);
+    button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Pressed"), Custom::Pressed);
+    d->buttonRows.append(button);
     connect(button, &QAbstractButton::clicked, this, &CustomComboBox::onButtonClicked);
 }
 
@@ -434,6 +469,13 @@ void CustomComboBox::paintEvent(QPaintEvent *event)
     cDrawWidget(Custom::WidgetComboBox, &painter, QRect(0, 0, width(), height()), &option);
 }
 
+bool CustomComboBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::ChildPolished)
+        d->colorField();
+    return QComboBox::event(event);
+}
+
 void CustomComboBox::mousePressEvent(QMouseEvent *event)
 {
     // The base class goes on with the combo box when showPopup() is done, and a custom popup may have deleted it. So
@@ -465,6 +507,8 @@ void CustomComboBox::changeEvent(QEvent *event)
 void CustomComboBox::customEvent(QEvent *event)
 {
     cCustomEvent(event);
-    if (int(event->type()) == ChangeSkinEvent::EventType)
-        d->setSheet();
+    if (int(event->type()) != ChangeSkinEvent::EventType)
+        return;
+    d->setSheet();
+    d->colorField();
 }

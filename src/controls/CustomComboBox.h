@@ -50,7 +50,7 @@ public:
     /// Sets the mask without a signal. Bits that no item has are kept.
     void cSetMultiCheckValue(int value);
     int cGetMultiCheckValue() const; ///< the mask; 0 at start
-    /// Adds a row with a button, see sigButtonClicked(). The button is as wide as the combo box is now, and 30 px high.
+    /// Adds a row with a button, see sigButtonClicked(). The button is as wide as the combo box and 30 px high.
     void cAddButtonItem(QString text);
     /// \}
 
@@ -82,6 +82,7 @@ protected Q_SLOTS:
     void onButtonClicked();
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;

@@ -10,6 +10,7 @@
 
 class CComboBoxListView;
 class CustomCheckBox;
+class CustomPushButton;
 
 /// The list of a model that the application has set.
 class ComboBoxModelView : public QListView
@@ -39,6 +40,7 @@ public:
     CComboBoxListView *listView() const;
     void replaceView(CComboBoxListView *view); ///< by a plain one, which can show any model
     void setSheet();
+    void colorField();
 
     QString multiText() const;
     void addCheckItem(CComboBoxListView *view, int flag, const QString &label);
@@ -63,6 +65,8 @@ public:
     QPointer<QWidget> popupWidget; ///< the custom popup
 
     QPointer<QAbstractItemView> themedView; ///< the one that has the theme's sheet
+    QPointer<QLineEdit> coloredField; ///< of an editable combo box, in the theme's colours
+    QList<QPointer<CustomPushButton>> buttonRows;
     QSize popupSize; ///< that of the popup window when it was open last
     QSize contentSize; ///< what its margins left for the widget then
     bool isToggling = false; ///< toggle() runs

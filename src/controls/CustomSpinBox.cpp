@@ -57,6 +57,7 @@ void CustomSpinBox::changeEvent(QEvent *event)
 
 void CustomSpinBox::customEvent(QEvent *event)
 {
+    // Also a sheet of the same text, which may have other pictures now.
     if (int(event->type()) == ChangeSkinEvent::EventType)
         setStyleSheet(Custom::styleSheet(Custom::SheetSpinBox));
 }

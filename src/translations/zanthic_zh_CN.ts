@@ -13,21 +13,6 @@
     </message>
 </context>
 <context>
-    <name>CustomDockTitleBar</name>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Collapse</source>
-        <translation>收起</translation>
-    </message>
-    <message>
-        <source>Expand</source>
-        <translation>展开</translation>
-    </message>
-</context>
-<context>
     <name>CustomDrawSlider</name>
     <message>
         <source>Low</source>
@@ -40,6 +25,21 @@
     <message>
         <source>High</source>
         <translation>高</translation>
+    </message>
+</context>
+<context>
+    <name>CustomDockTitleBar</name>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>收起</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>展开</translation>
     </message>
 </context>
 <context>

@@ -43,31 +43,30 @@ struct Window : QWidget
     QString deadly; // what deletes the control that tells it
 };
 
-void act(CustomSliderSpinBox *box, const QString &action, const QString &value)
+void act(CustomSliderSpinBox *box, const QString &done)
 {
+    CustomSpinBox64 *spinBox = box->getSpinBox();
     CustomProcessSlider *slider = box->getSlider();
-    const QPoint start(0, slider->height() / 2);
-    const QPoint end(slider->width() - 1, slider->height() / 2);
-    if (action == "set"_s)
-        box->cSetValue(value.toLongLong());
-    if (action == "range"_s)
-        box->cSetRange(
-            value.section(QLatin1Char(','), 0, 0).toLongLong(), value.section(QLatin1Char(','), 1).toLongLong());
-    if (action == "type"_s) {
-        box->getSpinBox()->interLineEdit()->clear();
-        QTest::keyClicks(box->getSpinBox(), value);
-        QTest::keyClick(box->getSpinBox(), Qt::Key_Return);
-    }
-    if (action == "drag"_s) {
+    const QPoint end(slider->width() - 1, 20);
+    const QStringList words = done.split(QRegularExpression("[=,]"_s));
+    if (words[0] == "set"_s) {
+        box->cSetValue(words[1].toLongLong());
+    } else if (words[0] == "range"_s) {
+        box->cSetRange(words[1].toLongLong(), words[2].toLongLong());
+    } else if (words[0] == "type"_s) {
+        spinBox->interLineEdit()->clear();
+        QTest::keyClicks(spinBox, words[1]);
+        QTest::keyClick(spinBox, Qt::Key_Return);
+    } else if (words[1] == "up"_s) {
+        QTest::mouseClick(spinBox, Qt::LeftButton, {}, { spinBox->width() - 8, 8 });
+    } else if (words[0] == "click"_s) {
+        QTest::mouseClick(slider, Qt::LeftButton, {}, words[1] == "start"_s ? QPoint(0, 20) : end);
+    } else {
         QTest::mousePress(slider, Qt::LeftButton, {}, CustomDrawSliderPrivate::get(slider)->option.handleRect.center());
         QMouseEvent move(QEvent::MouseMove, end, Qt::NoButton, Qt::LeftButton, {});
         QApplication::sendEvent(slider, &move);
         QTest::mouseRelease(slider, Qt::LeftButton, {}, end);
     }
-    if (value == "up"_s)
-        QTest::mouseClick(box->getSpinBox(), Qt::LeftButton, {}, { box->getSpinBox()->width() - 8, 8 });
-    else if (action == "click"_s)
-        QTest::mouseClick(slider, Qt::LeftButton, {}, value == "start"_s ? start : end);
 }
 
 } // namespace
@@ -87,13 +86,13 @@ private Q_SLOTS:
         for (const auto position : { CustomSliderSpinBox::SliderInline, CustomSliderSpinBox::SliderPopup }) {
             Window window(position);
             CustomSliderSpinBox &box = *window.boxes[0];
-            act(&box, "range"_s, cell("range"));
+            act(&box, QString("range=" + cell("range")));
             box.cSetValue(cell("value").toLongLong());
             box.cSetInc(qint64(number("step")));
             if (position == CustomSliderSpinBox::SliderPopup)
                 box.getSpinBox()->setFocus();
             box.getSlider()->grab(); // which places the handle
-            act(&box, cell("done").section(QLatin1Char('='), 0, 0), cell("done").section(QLatin1Char('='), 1));
+            act(&box, cell("done"));
             QCOMPARE(QStringLiteral("%1,%2").arg(box.cGetValue()).arg(box.getSpinBox()->value()), cell("values"));
             QCOMPARE(box.getSlider()->cHandleValue(), box.cGetValue());
             QCOMPARE(window.told, cell("told"));
@@ -105,10 +104,10 @@ private Q_SLOTS:
     void mayBeDeletedByTheirSignals()
     {
         for (const char *deadly : { "c", "r" }) {
-            for (const char *action : { "click", "type" }) {
+            for (const QString &action : { "click=end"_s, "type=1"_s }) {
                 Window window(CustomSliderSpinBox::SliderInline);
                 window.deadly = QLatin1String(deadly);
-                act(window.boxes[0], QLatin1String(action), "1"_s);
+                act(window.boxes[0], action);
                 QVERIFY(!window.boxes[0]);
             }
         }
@@ -166,22 +165,12 @@ private Q_SLOTS:
 
     void mayGoWhileThePopupIsOpen()
     {
-        Window window(CustomSliderSpinBox::SliderPopup, 2);
-        for (int i = 0; i < 2; ++i) {
-            window.boxes[i]->getSpinBox()->setFocus();
-            QVERIFY(window.isOpen(i));
-            delete window.boxes[i];
-        }
-        QTest::mouseClick(&window, Qt::LeftButton);
-    }
-
-    void partsMayBeDeleted()
-    {
-        for (int i = 0; i < 3; ++i) {
-            Window window(CustomSliderSpinBox::SliderPopup);
+        for (int i = 0; i < 4; ++i) {
+            Window window(CustomSliderSpinBox::SliderPopup, 2);
             CustomSliderSpinBox &box = *window.boxes[0];
-            box.getSpinBox()->setFocus();
-            delete QList<QWidget *>{ box.getSpinBox(), box.getSlider(), window.popup() }[i];
+            window.boxes[i / 3]->getSpinBox()->setFocus();
+            QVERIFY(window.isOpen(i / 3));
+            delete QWidgetList{ box.getSpinBox(), box.getSlider(), window.popup(), window.boxes[1] }[i];
             box.cSetRange(-5, 5);
             box.cSetValue(5);
             box.cSetInc(5);

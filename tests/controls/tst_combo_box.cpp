@@ -225,6 +225,36 @@ private Q_SLOTS:
         window.combo->hidePopup();
     }
 
+    void fieldAndButtonOfTheTheme()
+    {
+        ZanthicTheme::applySkin("light"_s);
+        CustomComboBox combo;
+        combo.cAddButtonItem("More"_s); // before it has its width
+        combo.setEditable(true);
+        combo.resize(170, 30);
+        combo.show();
+        QCoreApplication::sendPostedEvents();
+        const auto color
+            = [&](QPalette::ColorGroup group) { return combo.lineEdit()->palette().color(group, QPalette::Text); };
+        QCOMPARE(color(QPalette::Active), combo.cFontColor());
+        QCOMPARE(color(QPalette::Disabled), combo.cFontColor(Custom::Disabled));
+        const QColor light = color(QPalette::Active);
+        ZanthicTheme::applySkin("dark"_s);
+        QVERIFY(color(QPalette::Active) != light && color(QPalette::Active) == combo.cFontColor());
+        auto *own = new QLineEdit;
+        QPalette red = own->palette();
+        red.setColor(QPalette::Text, Qt::red);
+        own->setPalette(red);
+        combo.setLineEdit(own);
+        QCoreApplication::sendPostedEvents();
+        ZanthicTheme::applySkin("light"_s);
+        QCOMPARE(color(QPalette::Active), QColor(Qt::red));
+        combo.showPopup();
+        const auto *button = combo.view()->findChild<CustomPushButton *>();
+        QVERIFY(button && button->width() == 170 && button->font().family() == Custom::globalFontFamily());
+        combo.hidePopup();
+    }
+
     void otherViewsAndModels()
     {
         const Window window;

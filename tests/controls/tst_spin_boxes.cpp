@@ -7,20 +7,15 @@
 
 namespace {
 
+const QByteArray kSelections = "*[LanguageString=\"Zh_cn\"] { color: #ff0000 }"
+                               "*[StyleSelector=\"DarkBlack\"] { selection-color: #0000ff }";
+
 // The four controls in a shown window, and what they tell.
 class Window : public QWidget
 {
 public:
     Window()
     {
-        for (int i = 0; i < 4; ++i) {
-            controls[i]->setParent(this);
-            controls[i]->setGeometry(10, 10 + 40 * i, 120, 32);
-        }
-        record(spin, 0);
-        record(spinDouble, 1);
-        record(spin64, 2);
-        record(slider, 3);
         spin64->setRange(0, 99);
         show();
         activateWindow();
@@ -34,11 +29,10 @@ public:
         return QStringLiteral("%1 %2 %3,").arg(QLatin1String(what)).arg(i).arg(controls[i]->property("value").toInt());
     }
 
-    CustomSpinBox *spin = new CustomSpinBox;
-    CustomDoubleSpinBox *spinDouble = new CustomDoubleSpinBox;
-    CustomSpinBox64 *spin64 = new CustomSpinBox64;
-    CustomSlider *slider = new CustomSlider(Qt::Horizontal);
-    const QList<QPointer<QWidget>> controls{ spin, spinDouble, spin64, slider };
+    CustomSpinBox64 *spin64 = make<CustomSpinBox64>(0);
+    CustomSlider *slider = make<CustomSlider>(3);
+    // Sheets, values and keys are common to the first three.
+    const QList<QPointer<QWidget>> controls{ spin64, make<CustomSpinBox>(1), make<CustomDoubleSpinBox>(2), slider };
     QString told;
     QString deadly; // what deletes the one that tells it
     int hotKeys = 0;
@@ -50,8 +44,10 @@ protected:
 
 private:
     template <typename Control>
-    void record(Control *control, int i)
+    Control *make(int i)
     {
+        auto *control = new Control(this);
+        control->setGeometry(10, 10 + 40 * i, 120, 32);
         const auto add = [=](const char *what) {
             told += tell(i, what);
             if (deadly == QLatin1String(what))
@@ -60,18 +56,20 @@ private:
         connect(control, &Control::SigForceIn, this, [=] { add("in"); });
         connect(control, &Control::SigForceOut, this, [=] { add("out"); });
         connect(control, &Control::SigSaveParam, this, [=] { add("save"); });
+        return control;
     }
 };
 
-void click(QWidget *control, QStyle::SubControl arrow = QStyle::SC_SpinBoxUp)
+void click(QWidget *control, bool isUp = true)
 {
-    QStyleOptionSpinBox option;
-    option.initFrom(control);
-    option.subControls = QStyle::SC_All;
-    QRect place = control->rect();
-    if (!qobject_cast<QSlider *>(control))
-        place = control->style()->subControlRect(QStyle::CC_SpinBox, &option, arrow, control);
-    QTest::mouseClick(control, Qt::LeftButton, {}, place.center());
+    QTest::mouseClick(control, Qt::LeftButton, {}, { control->width() - 8, control->height() * (isUp ? 1 : 3) / 4 });
+}
+
+void type(CustomSpinBox64 *box, const QString &text)
+{
+    box->interLineEdit()->clear();
+    QTest::keyClicks(box, text);
+    QTest::keyClick(box, Qt::Key_Return);
 }
 
 } // namespace
@@ -113,13 +111,9 @@ private Q_SLOTS:
     {
         for (int i = 0; i < 8; ++i) {
             Window window;
-            QWidget *control = window.controls[i % 4];
-            control->setFocus();
+            window.controls[i % 4]->setFocus();
             window.deadly = i < 4 ? "save"_s : "out"_s;
-            if (i < 4)
-                click(control);
-            else
-                window.setFocus();
+            i < 4 ? click(window.controls[i]) : window.setFocus();
             QVERIFY(!window.controls[i % 4]);
         }
     }
@@ -140,14 +134,9 @@ private Q_SLOTS:
     void sheetIsSetWithEachSkin()
     {
         const QString image = picture(Qt::red);
-        const QString file = scratchFile("* { border-image: url(" + image.toUtf8()
-            + ") }"
-              "*[LanguageString=\"Zh_cn\"] { color: #ff0000 } *[StyleSelector=\"DarkBlack\"] { selection-color: "
-              "#0000ff }");
-        const QString tag = QStringLiteral("<Custom%1>%2</Custom%1>");
-        addDocument(QString("<Class Name='A'><QSS>" + tag.arg("SpinBox"_s, file) + tag.arg("DoubleSpinBox"_s, file)
-            + tag.arg("Slider"_s, file) + "</QSS></Class>")
-                        .toUtf8());
+        const QByteArray file = scratchFile("* { border-image: url(" + image.toUtf8() + ") } " + kSelections).toUtf8();
+        addDocument("<Class Name='A'><QSS><CustomSpinBox>" + file + "</CustomSpinBox><CustomDoubleSpinBox>" + file
+            + "</CustomDoubleSpinBox><CustomSlider>" + file + "</CustomSlider></QSS></Class>");
         Custom::setGlobalFontFamily(Custom::Zh_cn, "A"_s);
         const Window window;
         for (QWidget *control : window.controls.mid(0, 3))
@@ -166,7 +155,7 @@ private Q_SLOTS:
             QCOMPARE(control->palette().color(QPalette::Text), QColor(Qt::red));
             QCOMPARE(control->palette().color(QPalette::HighlightedText), QColor(Qt::blue));
         }
-        overwrite(file, "QSlider {}");
+        overwrite(QString::fromUtf8(file), "QSlider {}");
         Custom::changeSkin();
         for (QWidget *control : window.controls)
             QCOMPARE(control->styleSheet() == "QSlider {}"_s, control != window.slider);
@@ -180,33 +169,27 @@ private Q_SLOTS:
     {
         CustomSpinBox64 box;
         box.show();
-        QSignalSpy spy(&box, &CustomSpinBox64::valueChanged);
-        for (const QString &action : cell("done").split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-            const QString word = action.section(QLatin1Char('='), 0, 0);
-            const QString text = action.section(QLatin1Char('='), 1);
-            const qint64 number = text.section(QLatin1Char(','), 0, 0).toLongLong();
-            if (word == "range"_s) {
-                box.setRange(number, text.section(QLatin1Char(','), 1).toLongLong());
-            } else if (word == "steps"_s) {
-                box.stepBy(int(number));
-            } else if (word == "type"_s) {
-                box.interLineEdit()->clear();
-                QTest::keyClicks(&box, text);
-                QTest::keyClick(&box, Qt::Key_Return);
-            } else {
-                box.setProperty(word.toLatin1().constData(), number);
-            }
-        }
         QStringList told;
-        for (const QVariantList &arguments : spy)
-            told += arguments.first().toString();
+        connect(&box, &CustomSpinBox64::valueChanged, [&told](qlonglong v) { told += QString::number(v); });
+        for (const QString &action : cell("done").split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const QStringList words = action.split(QRegularExpression("[=,]"_s));
+            const qint64 value = words[1].toLongLong();
+            if (words[0] == "range"_s)
+                box.setRange(value, words[2].toLongLong());
+            else if (words[0] == "steps"_s)
+                box.stepBy(int(value));
+            else if (words[0] == "type"_s)
+                type(&box, words[1]);
+            else
+                box.setProperty(words[0].toLatin1().constData(), value);
+        }
         const qint64 value = box.value();
         QCOMPARE(QStringLiteral("%1,%2,%3").arg(box.minimum()).arg(box.maximum()).arg(value), cell("state"));
         QCOMPARE(box.interLineEdit()->text(), cell("text"));
         QCOMPARE(told.join(QLatin1Char(',')), cell("told"));
         int open = 0;
         for (int i = 0; i < 2; ++i) {
-            click(&box, i == 0 ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown);
+            click(&box, i == 0);
             open += box.value() != value ? i + 1 : 0;
             box.setValue(value);
         }
@@ -222,19 +205,17 @@ private Q_SLOTS:
     void textsAreValidated()
     {
         CustomSpinBox64 box;
-        box.setRange(cell("range").section(QLatin1Char(' '), 0, 0).toLongLong(),
-            cell("range").section(QLatin1Char(' '), 1).toLongLong());
+        const QStringList range = cell("range").split(QLatin1Char(' '));
+        box.setRange(range[0].toLongLong(), range[1].toLongLong());
         QString text = cell("text");
         int position = 0;
         QCOMPARE(int(box.validate(text, position)), cell("state").toInt());
-        text = "1,234"_s;
         box.setLocale(QLocale(QLocale::English));
-        box.setGroupSeparatorShown(true);
-        box.fixup(text);
-        QCOMPARE(text, "1,234"_s);
-        box.setGroupSeparatorShown(false);
-        box.fixup(text);
-        QCOMPARE(text, "1234"_s);
+        for (const bool isShown : { true, false }) {
+            box.setGroupSeparatorShown(isShown);
+            box.fixup(text = "1,234"_s);
+            QCOMPARE(text, isShown ? "1,234"_s : "1234"_s);
+        }
     }
 
     void doublesShowWholeNumbers_data() { addRowsOf("controls/spin_doubles.txt"_s, { "value", "text" }); }

@@ -104,6 +104,7 @@ void ComboPopupTest::popupClosesOnAPressOutside()
         };
         during([&] { click(middle(window.combo)); }, [&] { return content->isVisible(); }, drive);
         QTRY_VERIFY(!content->isVisible());
+        QVERIFY(!window.combo->underMouse() && window.combo->isEnabled());
     }
 }
 

@@ -53,82 +53,75 @@ class SliderPopupTest : public DesktopTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void spinBoxKeepsTheKeys();
-    void popupFollowsAndCloses();
-    void signalsOfRealFocusAndClicks();
-    void popupGoesWithItsWindow();
-};
-
-void SliderPopupTest::spinBoxKeepsTheKeys()
-{
-    Form form;
-    QVERIFY(form.settles() && !form.popup->isVisible());
-    click(middle(form.box));
-    QTRY_COMPARE(placeOf(*form.popup), QRect(form.belowBox(), QSize(200, 30)));
-    QVERIFY(form.isActiveWindow() && form.box->getSpinBox()->hasFocus());
-    keys("BackSpace 4 2 Return");
-    QTRY_COMPARE(form.box->cGetValue(), 42);
-    QVERIFY(form.popup->isVisible() && form.box->getSlider()->cHandleValue() == 42);
-    const QRect track = form.popup->geometry();
-    drag({ track.x() + track.width() * 42 / 100, track.center().y() }, QPoint(500, 0));
-    QTRY_COMPARE(form.box->cGetValue(), 100);
-    QCOMPARE(form.box->getSpinBox()->value(), 100);
-    QVERIFY(form.popup->isVisible());
-    click(middle(form.box)); // back to the keys
-    keys("ctrl+a 7 Return");
-    QTRY_COMPARE(form.box->cGetValue(), 7);
-}
-
-void SliderPopupTest::popupFollowsAndCloses()
-{
-    Form form;
-    QVERIFY(form.settles());
-    for (QWidget *elsewhere : QWidgetList{ form.field, form.button, form.cTitleBar() }) {
+    void spinBoxKeepsTheKeys()
+    {
+        Form form;
+        QVERIFY(form.settles() && !form.popup->isVisible());
         click(middle(form.box));
-        QTRY_VERIFY(form.popup->isVisible());
-        form.move(form.pos() + QPoint(37, 21));
-        QTRY_COMPARE(placeOf(*form.popup).topLeft(), form.belowBox());
-        click(form.popup->mapToGlobal(QPoint(2, 2)));
+        QTRY_COMPARE(placeOf(*form.popup), QRect(form.belowBox(), QSize(200, 30)));
+        QVERIFY(form.isActiveWindow() && form.box->getSpinBox()->hasFocus());
+        keys("BackSpace 4 2 Return");
+        QTRY_COMPARE(form.box->cGetValue(), 42);
+        QVERIFY(form.popup->isVisible() && form.box->getSlider()->cHandleValue() == 42);
+        const QRect track = form.popup->geometry();
+        drag({ track.x() + track.width() * 42 / 100, track.center().y() }, QPoint(500, 0));
+        QTRY_COMPARE(form.box->cGetValue(), 100);
+        QCOMPARE(form.box->getSpinBox()->value(), 100);
         QVERIFY(form.popup->isVisible());
-        click(middle(elsewhere)); // which takes the press itself
-        QTRY_VERIFY(!form.popup->isVisible() && !form.box->getSpinBox()->hasFocus());
+        keys("ctrl+a 7 Return"); // the spin box still has the keys
+        QTRY_COMPARE(form.box->cGetValue(), 7);
     }
-}
 
-void SliderPopupTest::signalsOfRealFocusAndClicks()
-{
-    Form form;
-    QVERIFY(form.settles());
-    click(form.box->mapToGlobal(QPoint(190, 10))); // the up arrow
-    QTRY_COMPARE(form.told, QStringLiteral("1in 1save "));
-    QCOMPARE(form.box->cGetValue(), 1);
-    click(form.spinBox->mapToGlobal(QPoint(190, 10)));
-    QTRY_COMPARE(form.told, QStringLiteral("1in 1save 1out 2in 2save "));
-    keys("9 Tab");
-    QTRY_COMPARE(form.told, QStringLiteral("1in 1save 1out 2in 2save 2out "));
-}
+    void popupFollowsAndCloses()
+    {
+        Form form;
+        QVERIFY(form.settles());
+        for (QWidget *elsewhere : QWidgetList{ form.field, form.button, form.cTitleBar() }) {
+            click(middle(form.box));
+            QTRY_VERIFY(form.popup->isVisible());
+            form.move(form.pos() + QPoint(37, 21));
+            QTRY_COMPARE(placeOf(*form.popup).topLeft(), form.belowBox());
+            click(form.popup->mapToGlobal(QPoint(2, 2)));
+            QVERIFY(form.popup->isVisible());
+            click(middle(elsewhere)); // which takes the press itself
+            QTRY_VERIFY(!form.popup->isVisible() && !form.box->getSpinBox()->hasFocus());
+        }
+    }
 
-void SliderPopupTest::popupGoesWithItsWindow()
-{
-    auto form = std::make_unique<Form>();
-    QVERIFY(form->settles());
-    click(middle(form->box));
-    QTRY_VERIFY(form->popup->isVisible());
-    form->showMinimized();
-    QTRY_VERIFY(!form->popup->isVisible());
-    form->showNormal();
-    QVERIFY(QTest::qWaitForWindowActive(form.get()));
-    click(middle(form->box));
-    QTRY_VERIFY(placeOf(*form->popup).isValid());
-    click(middle(form->popup));
-    QTRY_VERIFY(form->popup->isActiveWindow());
-    keys("alt+F4");
-    QVERIFY(QTest::qWaitForWindowActive(form.get()));
-    QVERIFY(!form->popup->isVisible() && !form->box->getSpinBox()->hasFocus());
-    click(middle(form->box));
-    QTRY_VERIFY(placeOf(*form->popup).isValid());
-    form.reset();
-}
+    void signalsOfRealFocusAndClicks()
+    {
+        Form form;
+        QVERIFY(form.settles());
+        click(form.box->mapToGlobal(QPoint(190, 10))); // the up arrow
+        QTRY_COMPARE(form.told, QStringLiteral("1in 1save "));
+        QCOMPARE(form.box->cGetValue(), 1);
+        click(form.spinBox->mapToGlobal(QPoint(190, 10)));
+        QTRY_COMPARE(form.told, QStringLiteral("1in 1save 1out 2in 2save "));
+        keys("9 Tab");
+        QTRY_COMPARE(form.told, QStringLiteral("1in 1save 1out 2in 2save 2out "));
+    }
+
+    void popupGoesWithItsWindow()
+    {
+        auto form = std::make_unique<Form>();
+        QVERIFY(form->settles());
+        click(middle(form->box));
+        QTRY_VERIFY(form->popup->isVisible());
+        form->showMinimized();
+        QTRY_VERIFY(!form->popup->isVisible());
+        form->showNormal();
+        QVERIFY(QTest::qWaitForWindowActive(form.get()));
+        click(middle(form->box));
+        QTRY_VERIFY(placeOf(*form->popup).isValid());
+        keys("alt+F4"); // which the window gets
+        QTRY_VERIFY(!form->isVisible() && !form->popup->isVisible());
+        form->show();
+        QVERIFY(QTest::qWaitForWindowActive(form.get()));
+        click(middle(form->box));
+        QTRY_VERIFY(placeOf(*form->popup).isValid());
+        form.reset();
+    }
+};
 
 ZANTHIC_TEST_MAIN(SliderPopupTest)
 #include "tst_slider_popup.moc"

@@ -68,7 +68,7 @@ QByteArray StyleTest::classXml(const QByteArray &className, const QByteArray &se
 
 QByteArray StyleTest::attributesXml(const QString &attributes)
 {
-    static const QRegularExpression blank(QStringLiteral("\\s+(?=[\\w:]+=)"));
+    static const QRegularExpression blank(QStringLiteral("\\s+(?=[\\w:-]+=)"));
     static const QRegularExpression image(QStringLiteral("^@([a-z]+)(\\d+)x(\\d+)$"));
     QString result;
     for (const QString &attribute : attributes.split(blank, Qt::SkipEmptyParts)) {
