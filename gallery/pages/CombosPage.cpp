@@ -72,10 +72,10 @@ class CombosPage::Form : public QWidget
 {
 public:
     Form()
-        : m_pCaption(new TextLabel(TextLabel::Body, this)),
-          copies(new CustomSpinBox(this)),
+        : copies(new CustomSpinBox(this)),
           bothSides(new CustomCheckBox(this)),
-          done(new Roomy<CustomPushButton>(this))
+          done(new Roomy<CustomPushButton>(this)),
+          m_pCaption(new TextLabel(TextLabel::Body, this))
     {
         copies->setRange(1, MostCopies);
         auto *layout = new QGridLayout(this);
@@ -103,13 +103,12 @@ public:
         return bothSides->isChecked() ? CombosPage::tr("%1, both sides").arg(number) : number;
     }
 
-private:
-    TextLabel *m_pCaption;
-
-public:
     CustomSpinBox *copies;
     CustomCheckBox *bothSides;
     CustomPushButton *done;
+
+private:
+    TextLabel *m_pCaption;
 };
 
 CombosPage::CombosPage(QWidget *parent) : GalleryPage(parent)

@@ -14,8 +14,11 @@
 #include <Zanthic/CustomToolBar.h>
 
 #include <QtCore/QEvent>
+#include <QtCore/QRegularExpression>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QMainWindow>
+
+#include <memory>
 
 namespace {
 

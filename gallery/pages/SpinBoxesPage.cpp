@@ -20,6 +20,7 @@
 #include <QtWidgets/QGridLayout>
 
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -212,8 +213,8 @@ void SpinBoxesPage::addSliders()
     auto *popup = newSliderBox(this, CustomSliderSpinBox::SliderPopup);
     card->add(row({ captioned(beside, stateOf(beside, QT_TR_NOOP("Beside"))),
         captioned(marked, stateOf(marked, QT_TR_NOOP("Zero marked"))) }));
-    card->add(row({ popup, stateOf(popup, QT_TR_NOOP("Popup")) }));
-    card->add(row({ captioned(new Snapshot(pictureWithPopup), QT_TR_NOOP("the popup while it is open")) }));
+    card->add(row({ captioned(new Snapshot(pictureWithPopup), QT_TR_NOOP("the popup while it is open")), popup,
+        stateOf(popup, QT_TR_NOOP("Popup")) }));
 }
 
 void SpinBoxesPage::customEvent(QEvent *event)

@@ -13,6 +13,8 @@
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QGridLayout>
 
+#include <memory>
+
 namespace {
 
 constexpr QSize Segment_Size(88, 32);
