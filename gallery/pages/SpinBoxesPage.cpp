@@ -213,8 +213,13 @@ void SpinBoxesPage::addSliders()
     auto *popup = newSliderBox(this, CustomSliderSpinBox::SliderPopup);
     card->add(row({ captioned(beside, stateOf(beside, QT_TR_NOOP("Beside"))),
         captioned(marked, stateOf(marked, QT_TR_NOOP("Zero marked"))) }));
-    card->add(row({ captioned(new Snapshot(pictureWithPopup), QT_TR_NOOP("the popup while it is open")), popup,
-        stateOf(popup, QT_TR_NOOP("Popup")) }));
+    LiveText *state = stateOf(popup, QT_TR_NOOP("Popup"));
+    state->setMinimumHeight(popup->sizeHint().height());
+    QBoxLayout *line
+        = row({ captioned(new Snapshot(pictureWithPopup), QT_TR_NOOP("the popup while it is open")), popup, state });
+    line->setAlignment(popup, Qt::AlignTop);
+    line->setAlignment(state, Qt::AlignTop);
+    card->add(line);
 }
 
 void SpinBoxesPage::customEvent(QEvent *event)
