@@ -162,6 +162,7 @@ void CustomDotSelector::paintEvent(QPaintEvent *event)
 
     QPainter painter(this);
     const QBrush fill(d->color("NormalDotColor"));
+    const QBrush line(d->color("LintColor"));
     for (int i = 0; i < place.dots.size(); ++i) {
         QPainterPath path;
         path.addEllipse(place.dots.at(i));
@@ -169,10 +170,8 @@ void CustomDotSelector::paintEvent(QPaintEvent *event)
             painter.strokePath(path, QPen(d->color("SelectDotColor"), Ring_Width));
         else
             painter.fillPath(path, fill);
+        painter.fillRect(place.lines.value(i), line);
     }
-    const QBrush line(d->color("LintColor"));
-    for (const QRect &rect : place.lines)
-        painter.fillRect(rect, line);
 }
 
 void CustomDotSelector::mouseReleaseEvent(QMouseEvent *event)

@@ -109,6 +109,12 @@ bool CustomDrawSliderPrivate::onSecondChangedSlider(int x)
     return moveHandle(x, &option.secondHandlePos, &option.secondValue);
 }
 
+void CustomDrawSliderPrivate::endDrag()
+{
+    option.handlePressed = false;
+    option.secondHandlePressed = false;
+}
+
 CustomDrawSlider::CustomDrawSlider(QWidget *parent)
     : CustomWidget(parent), d(std::make_unique<CustomDrawSliderPrivate>())
 {
@@ -210,6 +216,16 @@ void CustomDrawSlider::initStyleOption()
 {
     if (d && !d->option.handlePressed)
         d->option.handlePos = d->value2HandlePos(d->option.value);
+}
+
+bool CustomDrawSlider::event(QEvent *event)
+{
+    const bool isDisabled = event->type() == QEvent::EnabledChange && !isEnabled();
+    if (d && (isDisabled || event->type() == QEvent::Hide || event->type() == QEvent::WindowBlocked)) {
+        d->endDrag();
+        update();
+    }
+    return CustomWidget::event(event);
 }
 
 void CustomDrawSlider::paintEvent(QPaintEvent *event)

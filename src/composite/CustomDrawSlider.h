@@ -61,6 +61,7 @@ protected:
     /// Brings the places of the handles up to date before each paint; a handle that is dragged stays under the mouse.
     virtual void initStyleOption();
 
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

@@ -20,6 +20,8 @@ public:
     /// Moves the first or the second handle to an x of the control. True when its value has changed.
     bool onChangedSlider(int x);
     bool onSecondChangedSlider(int x);
+    /// Lets go of both handles, where no release will come.
+    void endDrag();
 
     bool clickToMove = true; ///< a release anywhere moves the handle
     QList<qint64> stages{ 0 }; ///< where each stretch of the track begins, as a distance from the minimum

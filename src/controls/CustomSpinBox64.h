@@ -9,7 +9,8 @@
 class CustomSpinBox64Private;
 
 /// A spin box for 64-bit integers in the look of the style sheet Custom::SheetSpinBox. What is typed becomes the value
-/// when editing ends. The wheel never changes the value but goes on to the parent.
+/// when editing ends; a step before that goes from the value, not from what is being typed. The wheel never changes the
+/// value but goes on to the parent.
 ///
 /// The range is 0 to 1 at start, the value 0. A step past the end of the 64 bits comes out at their other end. The
 /// lowest number of all can be set and stepped to, but not typed.

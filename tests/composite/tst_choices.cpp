@@ -147,7 +147,8 @@ private Q_SLOTS:
         const QImage image = Probe::grab(&selector); // dots at 2, 40 and 84, lines of 28 px between them
         QCOMPARE(Probe::colorAt(image, 7, 10), colorName(Qt::blue));
         QCOMPARE(Probe::colorAt(image, 20, 9), colorName(Qt::red));
-        QCOMPARE(Probe::colorAt(image, 40, 10), colorName(QColor("#008000"_s))); // a ring of 2 px
+        QCOMPARE(Probe::colorAt(image, 39, 10), colorName(QColor("#008000"_s))); // a ring of 2 px, over the line
+        QCOMPARE(Probe::colorAt(image, 56, 10), colorName(Qt::red)); // and under the next
         QCOMPARE(Probe::colorAt(image, 48, 10), colorName(Qt::transparent));
         QTest::mouseClick(&selector, Qt::LeftButton, {}, QPoint(20, 10)); // between
         QCOMPARE(selector.cCurrentDot(), 1);

@@ -282,6 +282,28 @@ private Q_SLOTS:
         QCOMPARE(stage.said(), QString());
     }
 
+    void dragWithoutARelease()
+    {
+        addStyle("CustomDrawSlider", "SliderThickness=4 HandleImage=@red16x16"_s);
+        Stage stage("TwoHandle"_s);
+        QWidget &slider = *stage.slider;
+        slider.show();
+        const std::function<void()> ends[] = { [&] { slider.setEnabled(false); }, [&] { slider.hide(); },
+            [&] {
+                QDialog dialog(&slider);
+                dialog.setModal(true);
+                dialog.show();
+                QCoreApplication::processEvents();
+            } };
+        for (const auto &end : ends) {
+            slider.setEnabled(true);
+            slider.show();
+            stage.option().handlePressed = stage.option().secondHandlePressed = true;
+            end();
+            QVERIFY(!stage.option().handlePressed && !stage.option().secondHandlePressed);
+        }
+    }
+
     void handlersMayDoAnything()
     {
         addStyle("CustomDrawSlider", "SliderThickness=4 HandleImage=@red16x16"_s);
