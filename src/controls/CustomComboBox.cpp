@@ -28,6 +28,7 @@ constexpr int kListDistance = 6; // below where Qt places it
 constexpr int kPopupDistance = 4; // below the last row of pixels
 constexpr int kListTextMargin = 6;
 constexpr int kButtonHeight = 30;
+constexpr int kTokenRole = Qt::UserRole + 0x5a00; // tells a row with a widget from all others
 constexpr int kFieldMargin = 4; // brings the text of an editable combo box where that of others begins
 
 QString matchComboSelector(CustomComboBox::StyleSelector selector)
@@ -41,6 +42,13 @@ QString matchComboSelector(CustomComboBox::StyleSelector selector)
         return QStringLiteral("GrayWhite");
     }
     return QString();
+}
+
+bool isClosingKey(const QKeyEvent &event)
+{
+    const bool isArrow = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
+    return event.key() == Qt::Key_Escape || event.key() == Qt::Key_F4
+        || (isArrow && event.modifiers().testFlag(Qt::AltModifier));
 }
 
 } // namespace
@@ -131,18 +139,34 @@ QString CustomComboBoxPrivate::multiText() const
     return labels.join(strSplit);
 }
 
+// A row at the end, with a widget in it. Whoever hears of the new row may delete it, or the list; then there is
+// neither.
+void CustomComboBoxPrivate::addWidgetRow(
+    CComboBoxListView *view, std::unique_ptr<QListWidgetItem> row, std::unique_ptr<QWidget> widget)
+{
+    const QPointer<CComboBoxListView> list(view);
+    const int token = ++lastToken;
+    row->setData(kTokenRole, token);
+    view->addItem(row.release());
+    for (int i = list ? list->count() - 1 : -1; i >= 0; --i) {
+        if (list->item(i)->data(kTokenRole).toInt() == token) {
+            list->setItemWidget(list->item(i), widget.release());
+            return;
+        }
+    }
+}
+
 void CustomComboBoxPrivate::addCheckItem(CComboBoxListView *view, int flag, const QString &label)
 {
-    auto *item = new QListWidgetItem;
+    auto item = std::make_unique<QListWidgetItem>();
     item->setFlags(item->flags() & ~Qt::ItemIsSelectable);
-    view->insertItem(view->count(), item);
-    auto *box = new CustomCheckBox(view, CustomCheckBox::GrayWhite);
+    auto box = std::make_unique<CustomCheckBox>(nullptr, CustomCheckBox::GrayWhite);
     box->cSetStyleSelector(q->cStyleSelector());
     box->setText(label);
     box->cSetUserData(flag);
-    view->setItemWidget(item, box);
     box->setChecked(KorvInterface::testFlag(flag, multiValue));
-    connectBox(box);
+    connectBox(box.get());
+    addWidgetRow(view, std::move(item), std::move(box));
 }
 
 void CustomComboBoxPrivate::connectBox(const CustomCheckBox *box) const
@@ -179,6 +203,7 @@ void CustomComboBoxPrivate::createPopupWindow()
     popupWindow->cSetTitleVisible(false);
     popupWindow->cSetBorderWidth(0, Custom::AllEdge, Custom::Normal);
     popupWindow->cSetBorderRadius(0, Custom::AllCorner, Custom::Normal);
+    popupWindow->installEventFilter(q);
 }
 
 void CustomComboBoxPrivate::showCustomPopup()
@@ -206,24 +231,32 @@ void CustomComboBoxPrivate::runPopup()
     popupWindow->hide();
     if (!self || !hasCustomPopup())
         return;
-    // The widget's size, unless that is only what the window has left for it, which would shrink with each time.
-    if (popupWidget->size() != contentSize)
-        popupSize = popupWidget->size();
-    popupWindow->setFixedSize(popupSize);
+    const QPointer<QWidget> content = popupWidget;
+    const QSize size = content->size();
+    popupWindow->setFixedSize(size);
     popupWindow->move(q->mapToGlobal(QPoint(0, q->height() - 1)) + QPoint(0, kPopupDistance));
+    // The window's margins take something of the widget, which would shrink with each time.
+    QSize inside;
+    QObject context;
+    QTimer::singleShot(0, &context, [&inside, content] { inside = content ? content->size() : QSize(); });
     popupWindow->cPopup();
-    if (self)
-        contentSize = popupWidget ? popupWidget->size() : QSize();
+    if (content && content->size() == inside)
+        content->resize(size);
 }
 
-void CustomComboBoxPrivate::dropPressedLook() const
+void CustomComboBoxPrivate::dropHover()
 {
-    const QPointer<CustomComboBox> self(q);
     // The pointer may have left it while the popup had all events.
     if (q->underMouse() && !q->rect().contains(q->mapFromGlobal(QCursor::pos()))) {
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(q, &leave);
     }
+}
+
+void CustomComboBoxPrivate::dropPressedLook()
+{
+    const QPointer<CustomComboBox> self(q);
+    dropHover();
     // The application may have disabled it meanwhile.
     if (!self || self->testAttribute(Qt::WA_ForceDisabled))
         return;
@@ -248,8 +281,8 @@ void CustomComboBoxPrivate::placeList()
             button->setFixedWidth(q->width());
     }
     // A long list reaches down to the end of the screen, and what scrolls it on has to stay there.
-    const int room = window->screen()->availableGeometry().bottom() - window->geometry().bottom();
-    window->move(window->pos() + QPoint(0, qBound(0, room, kListDistance)));
+    const QPoint room = window->screen()->availableGeometry().bottomRight() - window->geometry().bottomRight();
+    window->move(window->pos() + QPoint(qMin(0, room.x()), qBound(0, room.y(), kListDistance)));
 }
 
 void CustomComboBoxPrivate::measureTexts()
@@ -301,13 +334,14 @@ void CustomComboBox::cSetMultiCheckItems(const QMap<int, QString> &items)
     const QPointer<CComboBoxListView> view = d->listView();
     if (!view)
         return;
-    // Whoever hears of the change of items may set others.
+    // Whoever hears of the change of items may set others, which then are the ones.
     const QMap<int, QString> added = items;
+    const int filling = ++d->fillings;
     view->clear();
-    if (!view)
+    if (!view || d->fillings != filling)
         return;
     d->multiItems = added;
-    for (auto it = added.cbegin(); it != added.cend() && view; ++it)
+    for (auto it = added.cbegin(); it != added.cend() && view && d->fillings == filling; ++it)
         d->addCheckItem(view, it.key(), it.value());
 }
 
@@ -339,19 +373,21 @@ void CustomComboBox::cAddButtonItem(QString text)
     CComboBoxListView *view = d->listView();
     if (!view)
         return;
-    auto *item = new QListWidgetItem;
+    auto item = std::make_unique<QListWidgetItem>();
     item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
     item->setSizeHint(QSize(0, kButtonHeight));
-    view->addItem(item);
-    auto *button = new CustomPushButton(text, this, CustomPushButton::Default);
+    const QPointer<CustomPushButton> button = new CustomPushButton(text, nullptr, CustomPushButton::Default);
     button->setFixedSize(width(), kButtonHeight);
-    view->setItemWidget(item, button);
+    connect(button, &QAbstractButton::clicked, this, &CustomComboBox::onButtonClicked);
+    const QPointer<CustomComboBox> self(this);
+    d->addWidgetRow(view, std::move(item), std::unique_ptr<QWidget>(button));
+    if (!self || !button)
+        return;
     // The first read gives the button its font, which the list's sheet would take away when it comes into the list.
     button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font"), Custom::Normal);
     button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Hover"), Custom::Hover);
     button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Pressed"), Custom::Pressed);
     d->buttonRows.append(button);
-    connect(button, &QAbstractButton::clicked, this, &CustomComboBox::onButtonClicked);
 }
 
 void CustomComboBox::cSetCustomPopupWidget(QWidget *widget)
@@ -360,8 +396,6 @@ void CustomComboBox::cSetCustomPopupWidget(QWidget *widget)
         if (holder == widget)
             return;
     }
-    if (widget != d->popupWidget)
-        d->contentSize = QSize();
     d->popupWidget = widget;
     if (!widget)
         return;
@@ -429,6 +463,8 @@ void CustomComboBox::hidePopup()
         d->popupWindow->hide();
     if (self)
         QComboBox::hidePopup();
+    if (self)
+        d->dropHover();
 }
 
 void CustomComboBox::onListItemClicked(QListWidgetItem *item)
@@ -494,6 +530,12 @@ void CustomComboBox::wheelEvent(QWheelEvent *event)
 
 bool CustomComboBox::eventFilter(QObject *watched, QEvent *event)
 {
+    // As they close a list.
+    if (watched == d->popupWindow && event->type() == QEvent::KeyPress
+        && isClosingKey(static_cast<QKeyEvent &>(*event))) {
+        d->popupWindow->hide();
+        return true;
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -43,6 +43,7 @@ public:
     void colorField();
 
     QString multiText() const;
+    void addWidgetRow(CComboBoxListView *view, std::unique_ptr<QListWidgetItem> row, std::unique_ptr<QWidget> widget);
     void addCheckItem(CComboBoxListView *view, int flag, const QString &label);
     void connectBox(const CustomCheckBox *box) const;
     /// As by the user. Whoever hears of it may delete the combo box.
@@ -53,7 +54,8 @@ public:
     void createPopupWindow();
     void showCustomPopup();
     void runPopup();
-    void dropPressedLook() const;
+    void dropHover();
+    void dropPressedLook();
     void placeList();
     void measureTexts();
 
@@ -67,8 +69,8 @@ public:
     QPointer<QAbstractItemView> themedView; ///< the one that has the theme's sheet
     QPointer<QLineEdit> coloredField; ///< of an editable combo box, in the theme's colours
     QList<QPointer<CustomPushButton>> buttonRows;
-    QSize popupSize; ///< that of the popup window when it was open last
-    QSize contentSize; ///< what its margins left for the widget then
+    int lastToken = 0; ///< of addWidgetRow()
+    int fillings = 0; ///< calls of cSetMultiCheckItems()
     bool isToggling = false; ///< toggle() runs
     bool valueChanged = false; ///< meanwhile
     bool isPressing = false; ///< the base class handles a press

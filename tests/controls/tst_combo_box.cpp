@@ -182,6 +182,31 @@ private Q_SLOTS:
         QCOMPARE(QApplication::activePopupWidget() != nullptr, what == "rebuilt"_s);
     }
 
+    void rowsMayGoWhileTheyCome()
+    {
+        const QList<std::function<void(CustomComboBox *)>> acts{ [](auto *combo) { combo->clear(); },
+            [](auto *combo) {
+                combo->cSetMultiCheckItems({ { 8, "x"_s }, { 16, "y"_s } });
+            },
+            [](auto *combo) { combo->setView(new QListView); } };
+        for (int i = 0; i < 2 * acts.size(); ++i) {
+            const QPointer<CustomComboBox> combo = new CustomComboBox(nullptr, CustomComboBox::Default, true);
+            bool acted = false;
+            connect(combo, qOverload<int>(&QComboBox::currentIndexChanged), [&, combo](int index) {
+                if (index == 0 && !std::exchange(acted, true))
+                    acts[i / 2](combo);
+            });
+            if (i % 2)
+                combo->cAddButtonItem("Button"_s);
+            else
+                combo->cSetMultiCheckItems(kItems);
+            QVERIFY(acted);
+            if (i == 2)
+                QCOMPARE(combo->count(), 2); // the newest ones only
+            delete combo;
+        }
+    }
+
     void wheelChangesAndScrollsNothing()
     {
         QScrollArea area;
