@@ -185,7 +185,13 @@ void CustomSliderSpinBoxPrivate::ResetSliderPopupSize()
 
 void CustomSliderSpinBoxPrivate::onSpinPosTimer()
 {
-    if (!m_pSpinBox || anchor() == m_oLastPos)
+    if (!m_pSpinBox)
+        return;
+    if (m_pSpinBox->visibleRegion().isEmpty()) { // scrolled out of sight
+        HideSlider();
+        return;
+    }
+    if (anchor() == m_oLastPos)
         return;
     m_oLastPos = anchor();
     ResetSliderPopupSize();
@@ -244,21 +250,37 @@ bool CustomSliderSpinBoxPrivate::isOutside(const QPoint &globalPos) const
     return !QRect(topLeft, bottomRight).contains(globalPos);
 }
 
+// Whether the spin box is done with: hidden, disabled, left by the keyboard.
+bool CustomSliderSpinBoxPrivate::endsUse(const QEvent &event) const
+{
+    if (event.type() == QEvent::EnabledChange)
+        return !m_pSpinBox->isEnabled();
+    if (event.type() == QEvent::KeyPress)
+        return static_cast<const QKeyEvent &>(event).key() == Qt::Key_Escape;
+    if (event.type() != QEvent::FocusOut)
+        return event.type() == QEvent::Hide;
+    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+}
+
 bool CustomSliderSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
 {
     bool hides = false;
     if (event->type() == QEvent::MouseButtonPress && (watched == m_pWatched || watched == m_pWatchedHandle)) {
         const auto *press = static_cast<QMouseEvent *>(event);
         hides = isOutside(WindowGeometry::rounded(press->screenPos()));
-    } else if (event->type() == QEvent::Hide) {
+    } else if (watched == m_pPopup) {
         // The user may close the popup itself, too.
-        hides = watched == m_pSpinBox || (watched == m_pPopup && s_pCurPopupPrivate == this);
+        hides = event->type() == QEvent::Hide && s_pCurPopupPrivate == this;
+    } else if (watched == m_pSpinBox) {
+        hides = endsUse(*event);
+        if (event->type() == QEvent::Resize)
+            ResetSliderPopupSize();
     }
     const QPointer<QObject> guard(this);
     if (hides)
         HideSlider();
-    // With the control its window may be gone, too.
-    return !guard || QObject::eventFilter(watched, event);
+    return guard && QObject::eventFilter(watched, event);
 }
 
 CustomSliderSpinBox::CustomSliderSpinBox(QWidget *parent, Custom::CommonStyleSelector selector, SliderPosition position)

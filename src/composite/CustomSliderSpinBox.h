@@ -9,7 +9,8 @@ class CustomSliderSpinBoxPrivate;
 class CustomSpinBox64;
 
 /// A spin box and a slider for one 64-bit value. The slider stands beside the spin box, or comes up below it when the
-/// spin box takes the focus and goes with a press elsewhere in the window; one such popup is open at a time.
+/// spin box takes the focus. Such a popup goes with a press elsewhere in the window, with Escape or Tab in the spin box,
+/// and when the spin box is hidden, disabled or scrolled out of sight; one is open at a time.
 ///
 /// Call cSetRange() first: until then spin box and slider have their own ranges. With a range that begins below 0 the
 /// slider marks zero.
@@ -35,7 +36,9 @@ public:
     void cSetValue(qint64 value);
     qint64 cGetValue() const;
     void cSetInc(qint64 inc); ///< the step, 1 at start
-    void cSetSpinBoxWidth(int width); ///< px; 85 at start beside a slider, which is the room that is left
+    /// Fixes the width of the spin box, in px. At start it is 85 beside a slider, which takes the rest of the row, and the
+    /// whole row with a popup.
+    void cSetSpinBoxWidth(int width);
 
     CustomProcessSlider *getSlider() const; ///< owned by the control
     CustomSpinBox64 *getSpinBox() const; ///< owned by the control

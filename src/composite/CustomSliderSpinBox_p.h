@@ -55,5 +55,6 @@ private:
     void HideSlider();
     void ResetSliderPopupSize();
     QPoint anchor() const;
+    bool endsUse(const QEvent &event) const;
     bool isOutside(const QPoint &globalPos) const;
 };

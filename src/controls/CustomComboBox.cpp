@@ -203,6 +203,7 @@ void CustomComboBoxPrivate::createPopupWindow()
     popupWindow->cSetTitleVisible(false);
     popupWindow->cSetBorderWidth(0, Custom::AllEdge, Custom::Normal);
     popupWindow->cSetBorderRadius(0, Custom::AllCorner, Custom::Normal);
+    popupWindow->cSetStyleSelector(QStringLiteral("Popup"));
     popupWindow->installEventFilter(q);
 }
 

@@ -57,7 +57,8 @@ public:
     /// \name A popup of one's own
     /// \{
     /// showPopup() shows \p widget, in its present size, instead of the list, and returns when it is hidden again;
-    /// null brings the list back. The popup window takes over the widget. A widget that is deleted or gets another
+    /// null brings the list back. Escape, F4 and Alt with an arrow close it, as they close a list. The popup window takes
+    /// over the widget. A widget that is deleted or gets another
     /// parent is forgotten; one that holds the combo box is ignored.
     void cSetCustomPopupWidget(QWidget *widget);
     /// The window around the widget, owned by the combo box; null before the first widget.

@@ -5,7 +5,8 @@
 #include <QtWidgets/QDoubleSpinBox>
 
 /// A spin box for a double that shows whole numbers only, whatever decimals() is, in the look of the style sheet
-/// Custom::SheetDoubleSpinBox. It has no decimals at start. In all else it is like CustomSpinBox.
+/// Custom::SheetDoubleSpinBox. It has no decimals at start. Return takes what is shown for the value: 1.6 becomes 2. In
+/// all else it is like CustomSpinBox.
 class ZANTHIC_EXPORT CustomDoubleSpinBox : public QDoubleSpinBox, public CustomQssHelper
 {
     Q_OBJECT

@@ -7,8 +7,8 @@
 /// A spin box for an int in the look of the style sheet Custom::SheetSpinBox. The wheel never changes its value but
 /// goes on to the parent.
 ///
-/// Like the other value controls it tells an application that stores parameters by three signals. Qt
-/// needs the control after those of the focus: a handler may delete it by deleteLater() only.
+/// Like the other value controls it tells an application that stores parameters by three signals. Qt needs the control
+/// after those of the focus, and after valueChanged(): a handler may delete it by deleteLater() only.
 class ZANTHIC_EXPORT CustomSpinBox : public QSpinBox, public CustomQssHelper
 {
     Q_OBJECT

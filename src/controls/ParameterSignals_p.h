@@ -6,8 +6,8 @@
 #include <QtCore/QPointer>
 
 /// The three signals by which a value control tells an application that stores parameters: SigForceIn() and
-/// SigForceOut() with the focus, SigSaveParam() with a release of the mouse. Each comes before Qt handles the event,
-/// and may delete the control.
+/// SigForceOut() with the focus, SigSaveParam() with a release of the mouse. Each comes before Qt handles the event.
+/// A handler of SigSaveParam() may delete the control; after those of the focus Qt itself goes on with it.
 namespace ParameterSignals {
 
 /// Tells of a focus event; false when the control is gone.
