@@ -47,6 +47,7 @@ void CustomSliderSpinBoxPrivate::createParts()
     }
     row->addWidget(m_pSpinBox);
     q->setLayout(row);
+    q->setFocusProxy(m_pSpinBox);
     m_pSlider->cSetStyleSelector(m_eStyle);
     m_pSlider->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_pSlider->cSetDotValue(0);
@@ -59,6 +60,7 @@ void CustomSliderSpinBoxPrivate::createPopup()
     m_pPopup->cSetTitleVisible(false);
     m_pPopup->cSetBorderWidth(0, Custom::AllEdge, Custom::Normal);
     m_pPopup->cSetBorderRadius(0, Custom::AllCorner, Custom::Normal);
+    m_pPopup->cSetStyleSelector(QStringLiteral("Popup"));
     // The keys stay with the spin box, whose coming by them has opened the popup.
     m_pPopup->setWindowFlag(Qt::WindowDoesNotAcceptFocus);
     m_pSlider = new CustomProcessSlider(m_pPopup);
@@ -280,7 +282,8 @@ bool CustomSliderSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
     const QPointer<QObject> guard(this);
     if (hides)
         HideSlider();
-    return guard && QObject::eventFilter(watched, event);
+    // With the control its window may be gone, too.
+    return !guard || QObject::eventFilter(watched, event);
 }
 
 CustomSliderSpinBox::CustomSliderSpinBox(QWidget *parent, Custom::CommonStyleSelector selector, SliderPosition position)

@@ -136,6 +136,8 @@ private Q_SLOTS:
             const QPoint below = window.mapToGlobal(QPoint(20, 73)); // 30 + 40 - 1 + 4
             QTRY_COMPARE(window.popup()->geometry(), QRect(below, QSize(300, 30)));
         }
+        window.boxes[0]->resize(260, 40);
+        QCOMPARE(window.popup()->width(), 260);
         window.activateWindow(); // here it is the popup's, which comes up without it elsewhere
         window.boxes[1]->getSpinBox()->setFocus();
         QTRY_VERIFY(!window.isOpen() && window.isOpen(1));
@@ -154,12 +156,18 @@ private Q_SLOTS:
             QTest::mouseClick(&window, Qt::LeftButton, {}, outside);
             QVERIFY(!window.isOpen() && !spinBox->hasFocus());
         }
-        for (int i = 0; i < 3; ++i) { // what else closes it
-            spinBox->setFocus();
-            QVERIFY(window.isOpen());
-            i == 0 ? spinBox->hide() : i == 1 ? window.popup()->reject() : window.hide();
-            QVERIFY(!window.isOpen() && !spinBox->hasFocus());
+        const std::function<void()> others[] = { [&] { spinBox->hide(); }, [&] { window.popup()->reject(); },
+            [&] { spinBox->setEnabled(false); }, [&] { QTest::keyClick(spinBox, Qt::Key_Escape); },
+            [&] { window.boxes[0]->move(500, 500); }, [&] { window.hide(); } };
+        for (const auto &other : others) { // what else closes it
+            spinBox->setEnabled(true);
             spinBox->show();
+            window.boxes[0]->move(kPlace.topLeft());
+            window.activateWindow();
+            window.boxes[0]->setFocus();
+            QTRY_VERIFY(window.isOpen());
+            other();
+            QTRY_VERIFY(!window.isOpen() && !spinBox->hasFocus());
         }
     }
 

@@ -86,6 +86,10 @@ private Q_SLOTS:
             click(middle(elsewhere)); // which takes the press itself
             QTRY_VERIFY(!form.popup->isVisible() && !form.box->getSpinBox()->hasFocus());
         }
+        click(middle(form.box));
+        QTRY_VERIFY(form.popup->isVisible());
+        keys("Tab");
+        QTRY_VERIFY(!form.popup->isVisible() && form.spinBox->hasFocus());
     }
 
     void signalsOfRealFocusAndClicks()
