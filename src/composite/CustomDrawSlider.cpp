@@ -209,7 +209,8 @@ QSize CustomDrawSlider::minimumSizeHint() const
         return CustomWidget::minimumSizeHint();
     const SliderLayout::Input input
         = SliderPainter::measured(d->option.sliderType, *this, d->option, QRect(), isEnabled());
-    return QSize(Hint_LeastTrackWidth + 2 * SliderLayout::labelInset(input), SliderLayout::height(input));
+    const int labels = input.labels == SliderLayout::LabelsBelow ? SliderPainter::labelsWidth(*this, d->option) : 0;
+    return QSize(qMax(Hint_LeastTrackWidth + 2 * SliderLayout::labelInset(input), labels), SliderLayout::height(input));
 }
 
 void CustomDrawSlider::initStyleOption()
@@ -241,13 +242,15 @@ void CustomDrawSlider::paintEvent(QPaintEvent *event)
 void CustomDrawSlider::mousePressEvent(QMouseEvent *event)
 {
     QWidget::mousePressEvent(event);
+    // With a click on the track the slider also takes what belongs to it: no window must move or stretch by the press.
+    if (d && d->clickToMove)
+        event->accept();
     if (!d || !d->option.handleRect.contains(rounded(event->localPos())))
         return;
     d->option.handlePressed = true;
     if (d->option.activeHandle >= 0)
         d->option.activeHandle = 0;
     update();
-    // The drag is the slider's: a window that moves when its body is dragged must not get it.
     event->accept();
 }
 

@@ -15,7 +15,8 @@ class CustomDrawSliderPrivate;
 /// The track can be cut into equal stretches that stand for ranges of different size, so that a range such as 0 to
 /// 60,000 stays usable at its low end. The user reaches at most 1,001 places, and values of 32 bits only.
 ///
-/// The mouse takes the handle where it was last painted. The keyboard and the wheel don't move it.
+/// The mouse takes the handle where it was last painted, and a click on the track moves it there at the release, with
+/// any button. The keyboard and the wheel don't move it.
 class ZANTHIC_EXPORT CustomDrawSlider : public CustomWidget
 {
     Q_OBJECT
@@ -30,8 +31,8 @@ public:
     explicit CustomDrawSlider(Qt::Orientation orientation, QWidget *parent = nullptr);
     ~CustomDrawSlider() override;
 
-    /// The range, 0 to 100 at first. One of more than 50,000 values turns the stages on, and a smaller one later
-    /// doesn't turn them off. Values outside are kept.
+    /// The range, 0 to 100 at first. One wider than 50,000 turns the stages on, and a smaller one later doesn't turn
+    /// them off. Values outside are kept.
     void cSetRange(qint64 minimum, qint64 maximum);
     /// Where each stretch of the track begins, as a distance from the minimum, ascending; an empty list stands for 0,
     /// 5,000 and 50,000. Without \p enable the track is of one piece. With a minimum other than 0 a value set by the
@@ -46,6 +47,8 @@ public:
     void cSetShowToolTip(bool show);
     /// Swaps the colours of the groove at both sides of the handle.
     void cSetReverse(bool reverse);
+    /// Labels: two beside the groove, each with the room of the first one, or any number below it. A CustomDotSlider
+    /// takes its own labels again with a change of language.
     void cSetShowTextTip(bool show, const QStringList &texts, ShowTextPosition position = TextBeside);
 
     QSize sizeHint() const override;

@@ -9,8 +9,11 @@ class CustomSliderSpinBoxPrivate;
 class CustomSpinBox64;
 
 /// A spin box and a slider for one 64-bit value. The slider stands beside the spin box, or comes up below it when the
-/// spin box takes the focus. Such a popup goes with a press elsewhere in the window, with Escape or Tab in the spin box,
-/// and when the spin box is hidden, disabled or scrolled out of sight; one is open at a time.
+/// spin box takes the focus. Such a popup goes with a press elsewhere in the window, with Escape or Tab in the spin
+/// box, and when the spin box is hidden, disabled or scrolled out of sight; one is open at a time.
+///
+/// The slider reaches values of 32 bits only, like every draw slider; the spin box reaches all. A popup opens with each
+/// focus, also with the first one of a window that is shown.
 ///
 /// Call cSetRange() first: until then spin box and slider have their own ranges. With a range that begins below 0 the
 /// slider marks zero.
@@ -36,8 +39,8 @@ public:
     void cSetValue(qint64 value);
     qint64 cGetValue() const;
     void cSetInc(qint64 inc); ///< the step, 1 at start
-    /// Fixes the width of the spin box, in px. At start it is 85 beside a slider, which takes the rest of the row, and the
-    /// whole row with a popup.
+    /// Fixes the width of the spin box, in px. At start it is 85 beside a slider, which takes the rest of the row, and
+    /// the whole row with a popup.
     void cSetSpinBoxWidth(int width);
 
     CustomProcessSlider *getSlider() const; ///< owned by the control

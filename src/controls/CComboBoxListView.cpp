@@ -39,6 +39,15 @@ void CComboBoxListView::mouseReleaseEvent(QMouseEvent *event)
         toggle(box);
 }
 
+void CComboBoxListView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // Beside a check box each click counts.
+    if (qobject_cast<CustomCheckBox *>(itemWidget(itemAt(event->pos()))))
+        mousePressEvent(event);
+    else
+        QListWidget::mouseDoubleClickEvent(event);
+}
+
 void CComboBoxListView::keyPressEvent(QKeyEvent *event)
 {
     auto *box = event->key() == Qt::Key_Space ? qobject_cast<CustomCheckBox *>(itemWidget(currentItem())) : nullptr;

@@ -8,8 +8,9 @@
 class CustomCheckBox;
 class CustomComboBox;
 
-/// The list that a CustomComboBox opens. It holds the items of the combo box, in the font of the combo box. The space
-/// bar toggles the check box in the current row.
+/// The list that a CustomComboBox opens, and makes for itself: one that is set by setView() has items of its own. It
+/// holds the items of the combo box, in the font of the combo box. The space bar toggles the check box in the current
+/// row.
 class ZANTHIC_EXPORT CComboBoxListView : public QListWidget
 {
     Q_OBJECT
@@ -27,6 +28,7 @@ protected:
     QStyleOptionViewItem viewOptions() const override;
     void resizeEvent(QResizeEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -51,6 +51,14 @@ bool isClosingKey(const QKeyEvent &event)
         || (isArrow && event.modifiers().testFlag(Qt::AltModifier));
 }
 
+// A colour of the skin, where it has that.
+void setRole(QPalette *palette, QPalette::ColorRole role, const QString &name)
+{
+    const QBrush brush = Custom::getDataBaseColor(name);
+    if (brush.style() != Qt::NoBrush)
+        palette->setBrush(role, brush);
+}
+
 } // namespace
 
 QStyleOptionViewItem ComboBoxModelView::viewOptions() const
@@ -79,6 +87,7 @@ void CustomComboBoxPrivate::createView()
     q->setModel(view->model());
     QObject::connect(view, &QListWidget::itemClicked, q, &CustomComboBox::onListItemClicked);
     q->setView(view);
+    view->viewport()->installEventFilter(q); // comes before that of Qt's window
     if (QWidget *window = q->viewParent()) {
         window->installEventFilter(q);
         window->setStyleSheet(QStringLiteral("QFrame{outline: 0px;border : 0px; background:transparent;padding:0px;}"));
@@ -111,18 +120,27 @@ void CustomComboBoxPrivate::setSheet()
         themedView->setStyleSheet(Custom::styleSheet(Custom::SheetListView));
 }
 
-// Qt's field keeps the colours of the platform otherwise. One that the application has coloured keeps them.
+// Qt's field keeps the colours of the platform otherwise. One that the application has coloured keeps its own.
 void CustomComboBoxPrivate::colorField()
 {
     QLineEdit *edit = q->lineEdit();
-    if (!edit || (edit != coloredField && edit->testAttribute(Qt::WA_SetPalette)))
+    if (!edit)
+        return;
+    const auto textOf = [edit](QPalette::ColorGroup group) { return edit->palette().color(group, QPalette::Text); };
+    const bool isOurs = edit == coloredField && textOf(QPalette::Active) == fieldColor;
+    const QColor color = q->cFontColor();
+    const QColor disabled = q->cFontColor(Custom::Disabled);
+    if (isOurs ? color == fieldColor && textOf(QPalette::Disabled) == disabled : edit->testAttribute(Qt::WA_SetPalette))
         return;
     coloredField = edit;
+    fieldColor = color;
     QPalette colors = edit->palette();
     colors.setColor(QPalette::Base, Qt::transparent);
-    for (const QPalette::ColorGroup group : { QPalette::Active, QPalette::Inactive, QPalette::Disabled })
-        colors.setColor(
-            group, QPalette::Text, q->cFontColor(group == QPalette::Disabled ? Custom::Disabled : Custom::Normal));
+    colors.setColor(QPalette::Active, QPalette::Text, color);
+    colors.setColor(QPalette::Inactive, QPalette::Text, color);
+    colors.setColor(QPalette::Disabled, QPalette::Text, disabled);
+    setRole(&colors, QPalette::Highlight, QStringLiteral("Custom_Selection"));
+    setRole(&colors, QPalette::HighlightedText, QStringLiteral("Custom_Selection_Text"));
     edit->setPalette(colors);
     if (edit->textMargins().isNull())
         edit->setTextMargins(kFieldMargin, 0, 0, 0);
@@ -190,6 +208,14 @@ void CustomComboBoxPrivate::tellOfValue()
     Q_EMIT q->sigMultiValueChanged();
     if (self)
         self->update();
+}
+
+// A row that can't be chosen; Qt would choose the one that the pointer was over before.
+bool CustomComboBoxPrivate::isDeadRow(const QObject *watched, const QPoint &pos) const
+{
+    const CComboBoxListView *view = listView();
+    const QListWidgetItem *item = view && watched == view->viewport() ? view->itemAt(pos) : nullptr;
+    return item && !item->flags().testFlag(Qt::ItemIsEnabled);
 }
 
 bool CustomComboBoxPrivate::hasCustomPopup() const
@@ -262,6 +288,8 @@ void CustomComboBoxPrivate::dropPressedLook()
     if (!self || self->testAttribute(Qt::WA_ForceDisabled))
         return;
     const bool hadFocus = q->window()->focusWidget() == q;
+    if (hadFocus) // or it would go to the next control for a moment
+        q->clearFocus();
     q->setEnabled(false);
     if (!self)
         return;
@@ -276,6 +304,13 @@ void CustomComboBoxPrivate::placeList()
     if (!window)
         return;
     window->setFixedWidth(qMax(q->width() + kListExtraWidth, q->sizeHint().width()));
+    // What scrolls a long list at its ends is painted with the window's colours.
+    QPalette colors = window->palette();
+    const QPalette list = q->view()->palette();
+    colors.setColor(QPalette::Window, list.color(QPalette::Base));
+    for (const QPalette::ColorRole role : { QPalette::WindowText, QPalette::ButtonText, QPalette::Text })
+        colors.setColor(role, list.color(QPalette::Text));
+    window->setPalette(colors);
     // The combo box may have been laid out since they were added.
     for (const QPointer<CustomPushButton> &button : qAsConst(buttonRows)) {
         if (button)
@@ -319,7 +354,6 @@ CustomComboBox::~CustomComboBox()
 void CustomComboBox::cSetComboBoxStyleSelector(StyleSelector selector)
 {
     cSetStyleSelector(matchComboSelector(selector));
-    d->colorField();
     if (d->isMulti)
         cSetMultiCheckItems(d->multiItems);
 }
@@ -388,6 +422,7 @@ void CustomComboBox::cAddButtonItem(QString text)
     button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font"), Custom::Normal);
     button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Hover"), Custom::Hover);
     button->cSetFontColor(QStringLiteral("DB_COLOR_Custom_ComboBox_Font_Pressed"), Custom::Pressed);
+    d->buttonRows.removeAll(nullptr);
     d->buttonRows.append(button);
 }
 
@@ -500,6 +535,7 @@ void CustomComboBox::paintEvent(QPaintEvent *event)
         QComboBox::paintEvent(event);
         return;
     }
+    d->colorField(); // a value of this control may have changed
     QStyleOptionComboBox option;
     initComboBoxOption(&option);
     QStylePainter painter(this);
@@ -531,6 +567,8 @@ void CustomComboBox::wheelEvent(QWheelEvent *event)
 
 bool CustomComboBox::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::MouseButtonRelease && d->isDeadRow(watched, static_cast<QMouseEvent &>(*event).pos()))
+        return true;
     // As they close a list.
     if (watched == d->popupWindow && event->type() == QEvent::KeyPress
         && isClosingKey(static_cast<QKeyEvent &>(*event))) {

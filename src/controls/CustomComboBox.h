@@ -46,20 +46,23 @@ public:
     /// \{
     /// Makes \p items, labels by flags, the check boxes of the list, in place of all items; the value stays. In
     /// multi-value mode the closed box shows the labels that are checked, in the order of their flags, joined by ";".
+    /// Its size hint doesn't know them: give it a width. "&" in a label is a shortcut as in a check box, "&&" an
+    /// ampersand.
     void cSetMultiCheckItems(const QMap<int, QString> &items);
     /// Sets the mask without a signal. Bits that no item has are kept.
     void cSetMultiCheckValue(int value);
     int cGetMultiCheckValue() const; ///< the mask; 0 at start
-    /// Adds a row with a button, see sigButtonClicked(). The button is as wide as the combo box and 30 px high.
+    /// Adds a row with a button, see sigButtonClicked(). Add it last: in an empty list it would be the current row. The
+    /// button is as wide as the combo box and 30 px high.
     void cAddButtonItem(QString text);
     /// \}
 
     /// \name A popup of one's own
     /// \{
     /// showPopup() shows \p widget, in its present size, instead of the list, and returns when it is hidden again;
-    /// null brings the list back. Escape, F4 and Alt with an arrow close it, as they close a list. The popup window takes
-    /// over the widget. A widget that is deleted or gets another
-    /// parent is forgotten; one that holds the combo box is ignored.
+    /// null brings the list back. Escape, F4 and Alt with an arrow close it, as they close a list. The popup window
+    /// takes over the widget. A widget that is deleted or gets another parent is forgotten; one that holds the combo
+    /// box is ignored.
     void cSetCustomPopupWidget(QWidget *widget);
     /// The window around the widget, owned by the combo box; null before the first widget.
     CustomMainWindow *cGetCustomPopupWindows() const;

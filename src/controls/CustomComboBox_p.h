@@ -50,6 +50,7 @@ public:
     void toggle(CustomCheckBox *box);
     void tellOfValue();
 
+    bool isDeadRow(const QObject *watched, const QPoint &pos) const;
     bool hasCustomPopup() const;
     void createPopupWindow();
     void showCustomPopup();
@@ -68,6 +69,7 @@ public:
 
     QPointer<QAbstractItemView> themedView; ///< the one that has the theme's sheet
     QPointer<QLineEdit> coloredField; ///< of an editable combo box, in the theme's colours
+    QColor fieldColor; ///< the text's
     QList<QPointer<CustomPushButton>> buttonRows;
     int lastToken = 0; ///< of addWidgetRow()
     int fillings = 0; ///< calls of cSetMultiCheckItems()

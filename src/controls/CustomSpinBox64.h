@@ -13,8 +13,8 @@ class CustomSpinBox64Private;
 /// value but goes on to the parent.
 ///
 /// The range is 0 to 1 at start, the value 0. A step past the end of the 64 bits comes out at their other end. The
-/// lowest number of all can be set and stepped to, but not typed. It neither wraps nor has a special value text. A handler
-/// of valueChanged() or of a signal of the focus may delete it by deleteLater() only.
+/// lowest number of all can be set and stepped to, but not typed. It neither wraps nor has a special value text. A
+/// handler of valueChanged() or of a signal of the focus may delete it by deleteLater() only.
 class ZANTHIC_EXPORT CustomSpinBox64 : public QAbstractSpinBox, public CustomQssHelper
 {
     Q_OBJECT

@@ -15,6 +15,8 @@
 
 namespace {
 
+constexpr int Label_Gap = 4;
+
 Custom::ItemStatus handleStatus(const CustomDrawSliderOption &option, bool enabled)
 {
     if (!enabled)
@@ -183,6 +185,16 @@ SliderLayout::Input SliderPainter::measured(Custom::CustomWidgetType type, const
     input.isSecondBelowFirst = option.secondValue < option.value;
     input.dotCount = option.dotCount;
     return input;
+}
+
+int SliderPainter::labelsWidth(const CustomObject &object, const CustomDrawSliderOption &option)
+{
+    const auto style = CustomObjectData::get(&object)->resolvedExtra<SliderStyle>();
+    int widest = 0;
+    for (const QString &text : option.textTips)
+        widest = qMax(widest, style->labelFont.boundingSize(text).width());
+    // They are spread evenly, so that the widest decides.
+    return int(qMin<qint64>(qint64(widest + Label_Gap) * option.textTips.size(), QWIDGETSIZE_MAX));
 }
 
 void CustomObject::cDrawSlider(

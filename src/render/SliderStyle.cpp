@@ -6,6 +6,8 @@ namespace {
 constexpr int Groove_MaxThickness = 4096;
 constexpr int Font_MaxSize = 4096;
 
+constexpr int kKeptSizes = 64;
+
 QString text(const CustomObjectData &data, const char *attr, Custom::ItemStatus status = Custom::Normal)
 {
     return data.getValue(QLatin1String(attr), status, {});
@@ -47,6 +49,7 @@ const QFont &SliderStyle::Font::font() const
         if (m_nSize > 0)
             m_oFont.setPixelSize(m_nSize);
         m_oMetrics = QFontMetrics(m_oFont);
+        m_mapSizes.clear();
     }
     return m_oFont;
 }
@@ -54,5 +57,10 @@ const QFont &SliderStyle::Font::font() const
 QSize SliderStyle::Font::boundingSize(const QString &text) const
 {
     font();
-    return m_oMetrics.boundingRect(text).size();
+    const auto known = m_mapSizes.constFind(text);
+    if (known != m_mapSizes.constEnd())
+        return *known;
+    if (m_mapSizes.size() >= kKeptSizes)
+        m_mapSizes.clear();
+    return *m_mapSizes.insert(text, m_oMetrics.boundingRect(text).size());
 }

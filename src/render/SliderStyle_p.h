@@ -4,6 +4,7 @@
 
 #include "style/CustomObject_p.h"
 
+#include <QtCore/QHash>
 #include <QtGui/QFontMetrics>
 
 /// The attributes of a draw slider, parsed. Kept with the other resolved styles of its class.
@@ -24,6 +25,7 @@ public:
         mutable QString m_strFamily;
         mutable QFont m_oFont;
         mutable QFontMetrics m_oMetrics{ QFont() };
+        mutable QHash<QString, QSize> m_mapSizes; // measuring a text takes a third of drawing it
     };
 
     /// A colour text as a brush for boxes and as a colour for everything else.

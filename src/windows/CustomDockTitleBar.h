@@ -33,7 +33,8 @@ public:
     void UpdateExpandBtnImg(bool expanded);
     void RefreshWidgetInfo(); ///< translates the tool tips anew
 
-    /// 200 x 17 px, or 17 x 200 in a dock with QDockWidget::DockWidgetVerticalTitleBar.
+    /// 200 x 17 px, or 17 x 200 in a dock with QDockWidget::DockWidgetVerticalTitleBar; the row itself stays
+    /// horizontal. Override these for a higher one.
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override;
 

@@ -13,6 +13,7 @@ CustomDockWidget::CustomDockWidget(const QString &title, QWidget *parent, Qt::Wi
 {
     const QBrush background = Custom::getDataBaseColor(QStringLiteral("Custom_DockWidget_Background"));
     setStyleSheet(QString::fromLatin1(s_strSheet).arg(background.color().name()));
+    setAttribute(Qt::WA_StyledBackground); // also while it is docked
     setWindowFlags(kFlags);
 }
 

@@ -5,8 +5,8 @@
 #include <QtWidgets/QDockWidget>
 
 /// A dock widget with the theme's background that is a frameless window of its own: also one with a main window for
-/// its parent floats until it is docked. It takes the background of the skin that is in force when it is made and
-/// doesn't follow a change of skin.
+/// its parent floats until it is docked, by QMainWindow::addDockWidget() and then setFloating(false) and show(). It
+/// takes the background of the skin that is in force when it is made and doesn't follow a change of skin.
 class ZANTHIC_EXPORT CustomDockWidget : public QDockWidget, public CustomQssHelper
 {
     Q_OBJECT

@@ -116,7 +116,7 @@ private Q_SLOTS:
         form->showNormal();
         QVERIFY(QTest::qWaitForWindowActive(form.get()));
         click(middle(form->box));
-        QTRY_VERIFY(placeOf(*form->popup).isValid());
+        QTRY_VERIFY(placeOf(*form->popup).isValid() && form->isActiveWindow() && form->box->getSpinBox()->hasFocus());
         keys("alt+F4"); // which the window gets
         QTRY_VERIFY(!form->isVisible() && !form->popup->isVisible());
         form->show();
