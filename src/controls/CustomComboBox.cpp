@@ -495,6 +495,7 @@ void CustomComboBox::showPopup()
 void CustomComboBox::hidePopup()
 {
     const QPointer<CustomComboBox> self(this);
+    d->popupAgain = false;
     if (d->popupWindow)
         d->popupWindow->hide();
     if (self)

@@ -251,16 +251,22 @@ bool BoxPictures::drawFill(QPainter *painter, const QRect &rect, const Parameter
     return true;
 }
 
-void BoxPictures::drawEllipse(QPainter *painter, const QRect &rect, const QColor &color, bool fill)
+BoxPictures::Ellipse::Ellipse(const QPainter *painter, const QSize &size, const QColor &color, Kind kind)
+    : m_oSize(size), m_oColor(color), m_eKind(kind)
 {
-    const int scale = pixelExactScale(painter);
-    if (!BoxPainter::arePicturesEnabled() || scale == 0 || qMin(rect.width(), rect.height()) < kMinEllipse
-        || qMax(rect.width(), rect.height()) > kMaxEllipse) {
-        paintEllipse(painter, rect, color, fill);
-        return;
-    }
-    const EllipseKey key{ rect.size(), quint64(color.rgba64()), scale, fill };
-    drawPicture(painter, rect.topLeft() - QPoint(1, 1), ellipsePicture(key, color), scale);
+    const bool fits
+        = qMin(size.width(), size.height()) >= kMinEllipse && qMax(size.width(), size.height()) <= kMaxEllipse;
+    m_nScale = fits && BoxPainter::arePicturesEnabled() ? pixelExactScale(painter) : 0;
+    if (m_nScale > 0)
+        m_oPicture = ellipsePicture({ size, quint64(color.rgba64()), m_nScale, kind == Filled }, color);
+}
+
+void BoxPictures::Ellipse::draw(QPainter *painter, const QPoint &topLeft) const
+{
+    if (m_nScale > 0)
+        drawPicture(painter, topLeft - QPoint(1, 1), m_oPicture, m_nScale);
+    else
+        paintEllipse(painter, QRect(topLeft, m_oSize), m_oColor, m_eKind == Filled);
 }
 
 std::shared_ptr<const Arcs> BoxPictures::arcs(const QRect &rect, const Parameter &parameter)

@@ -4,6 +4,9 @@
 
 #include "style/CustomObject_p.h"
 
+#include <QtGui/QImage>
+#include <QtGui/QPainterPath>
+
 /// What a rounded box of one size needs at each paint, made once.
 ///
 /// The fill of a box is kept as a picture: it is one antialiased fill with one colour, so drawing the picture of it
@@ -21,8 +24,22 @@ bool drawFill(QPainter *painter, const QRect &rect, const Parameter &parameter, 
 using Arcs = std::array<std::array<QPainterPath, 2>, 4>;
 std::shared_ptr<const Arcs> arcs(const QRect &rect, const Parameter &parameter);
 
-/// Strokes the ellipse in \p rect with a pen of 1 px, or fills it, antialiased. For small ones that come often: they
-/// are kept as pictures by size and colour.
-ZANTHIC_TEST_EXPORT void drawEllipse(QPainter *painter, const QRect &rect, const QColor &color, bool fill);
+/// An ellipse of one size, stroked with a pen of 1 px or filled, antialiased, for a painter as it is set up now. Small
+/// ones are drawn from a picture that is kept by size and colour.
+class ZANTHIC_TEST_EXPORT Ellipse
+{
+public:
+    enum Kind { Stroked, Filled };
+
+    Ellipse(const QPainter *painter, const QSize &size, const QColor &color, Kind kind);
+    void draw(QPainter *painter, const QPoint &topLeft) const;
+
+private:
+    QSize m_oSize;
+    QColor m_oColor;
+    Kind m_eKind;
+    int m_nScale = 0; // 0 without a picture
+    QImage m_oPicture;
+};
 
 } // namespace BoxPictures

@@ -65,11 +65,16 @@ public:
 
     void drawDots(const SliderLayout::Result &place) const
     {
+        using BoxPictures::Ellipse;
+        if (place.dots.count < 1)
+            return;
+        const Ellipse outline(m_pPainter, place.dots.first.size(), m_pStyle->dotCircle, Ellipse::Stroked);
+        const Ellipse fill(m_pPainter, place.dots.firstFill.size(), m_oSubPage.color, Ellipse::Filled);
         for (int i = 0; i < place.dots.count; ++i) {
-            const QRect dot = place.dots.outline(i);
-            BoxPictures::drawEllipse(m_pPainter, dot, m_pStyle->dotCircle, false);
-            if (place.handle.left() < dot.left())
-                BoxPictures::drawEllipse(m_pPainter, place.dots.fill(i), m_oSubPage.color, true);
+            const QPoint dot = place.dots.outline(i).topLeft();
+            outline.draw(m_pPainter, dot);
+            if (place.handle.left() < dot.x())
+                fill.draw(m_pPainter, place.dots.fill(i).topLeft());
         }
     }
 
@@ -82,7 +87,8 @@ public:
         if (m_eType == Custom::WidgetTwoHandleSlider)
             drawHandle(place.secondHandle, secondHandleStatus(m_oOption, enabled));
         else if (m_eType == Custom::WidgetProcessSlider && m_oOption.showDot)
-            BoxPictures::drawEllipse(m_pPainter, place.marker, Qt::white, true);
+            BoxPictures::Ellipse(m_pPainter, place.marker.size(), Qt::white, BoxPictures::Ellipse::Filled)
+                .draw(m_pPainter, place.marker.topLeft());
         if (firstOnTop)
             drawHandle(place.handle, handleStatus(m_oOption, enabled));
     }

@@ -142,7 +142,8 @@ private Q_SLOTS:
                 BoxPainter::setPicturesEnabled(pictures);
                 QPainter painter(&images[pictures]);
                 painter.scale(scale, scale);
-                BoxPictures::drawEllipse(&painter, rect, color, i % 2);
+                BoxPictures::Ellipse(&painter, rect.size(), color, BoxPictures::Ellipse::Kind(i % 2))
+                    .draw(&painter, rect.topLeft());
             }
             QVERIFY2(images[0] == images[1], qPrintable(QString::number(i)));
         }
