@@ -89,6 +89,7 @@ private Q_SLOTS:
         QCOMPARE(row.sizeHint(), QSize(3 * longest.width(), longest.height()));
 
         row.cSetStyleSelector("Mine"_s);
+        row.cSetCheckIndex(1); // no other one
         QCOMPARE(selectorsOf(row)[0], "Default:UnChecked"_s); // until the next choice
         row.cSetCheckIndex(9);
         QVERIFY(row.cCheckedIndex() == 9 && !selectorsOf(row).contains("Mine:Checked"_s));
@@ -199,6 +200,8 @@ private Q_SLOTS:
         widget.setLoop(false);
         widget.startClockwise(); // goes on with the third
         QTRY_COMPARE(finished, 2);
+        QVERIFY(QMetaObject::invokeMethod(&widget, "updateClockwise"));
+        QCOMPARE(shown(&widget), colorName(Qt::red)); // and then from the first
     }
 
     void animationWithoutFrames()

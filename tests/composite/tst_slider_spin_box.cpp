@@ -126,6 +126,16 @@ private Q_SLOTS:
         QVERIFY(!window.popup());
     }
 
+    void partsHaveTheLook()
+    {
+        const CustomSliderSpinBox box(nullptr, Custom::DarkBlack, CustomSliderSpinBox::SliderPopup);
+        QCOMPARE(box.getSlider()->cStyleSelector(), "DarkBlack"_s);
+        QCOMPARE(box.getSpinBox()->cStyleSelector(), "DarkBlack"_s);
+        QVERIFY(!CustomDrawSliderPrivate::get(box.getSlider())->option.showToolTip);
+        const auto &popup = *static_cast<CustomMainWindow *>(box.getSlider()->window());
+        QVERIFY(popup.cBorderWidth(Custom::AllEdge) == 0 && popup.cStyleSelector() == "Popup"_s);
+    }
+
     void popupHangsBelowTheSpinBox()
     {
         Window window(CustomSliderSpinBox::SliderPopup, 2);

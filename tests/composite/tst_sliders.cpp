@@ -254,6 +254,13 @@ private Q_SLOTS:
         stage.paint();
         stage.press(4);
         stage.move(152); // past the other one
+        const double place = stage.option().secondHandlePos;
+        stage.option().secondHandlePressed = true;
+        slider.cInitValue(stage.option().value, 90);
+        stage.paint();
+        QCOMPARE(stage.option().secondHandlePos, place); // under the mouse
+        stage.option().secondHandlePressed = false;
+        slider.cInitValue(stage.option().value, 50);
         stage.release(102); // onto it
         QCOMPARE(stage.said(), "75 release 50"_s);
         stage.paint();
@@ -266,11 +273,15 @@ private Q_SLOTS:
         slider.cSetLittleValue(30);
         slider.cSetLargeValue(70);
         QVERIFY(stage.option().value == 70 && stage.option().secondValue == 30);
-        slider.cInitValue(5, 5);
+        slider.cInitValue(5, 5); // of equal values it is the first one's
         slider.cSetLargeValue(8);
-        slider.cInitValue(stage.option().value, 8);
+        QVERIFY(stage.option().value == 8 && stage.option().secondValue == 5);
+        slider.cInitValue(5, 5);
         slider.cSetLittleValue(2);
-        QVERIFY(stage.option().value == 2 && stage.option().secondValue == 8);
+        QVERIFY(stage.option().value == 2 && stage.option().secondValue == 5);
+        CustomProcessSlider process;
+        process.cInitValue(40, 7);
+        QVERIFY(process.cDotValue() == 40 && process.cHandleValue() == 7 && process.cValue() == 7);
         slider.cSetSignleStep(3);
         slider.cDecreaseCurrentHandle();
         QCOMPARE(stage.option().value, qint64(0));
