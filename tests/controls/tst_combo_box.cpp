@@ -150,6 +150,12 @@ private Q_SLOTS:
         QCOMPARE(combo.property("StyleSelector").toString(), "DarkBlack"_s);
         QVERIFY(window.box(1)->cStyleSelector() == "DarkBlack"_s && window.box(1)->isChecked());
         QVERIFY(!window.box(2)->isChecked() && combo.cGetMultiCheckValue() == 35 && changes.size() == 3);
+        combo.cSetMultiCheckItems({ { 12, "Two bits"_s } });
+        for (const auto &[value, after] : { std::pair(4, 12), std::pair(12, 0), std::pair(13, 1) }) {
+            combo.cSetMultiCheckValue(value);
+            window.box(0)->toggle();
+            QCOMPARE(combo.cGetMultiCheckValue(), after);
+        }
         combo.hidePopup();
     }
 
@@ -274,8 +280,13 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents();
         ZanthicTheme::applySkin("light"_s);
         QCOMPARE(color(QPalette::Active), QColor(Qt::red));
+        combo.cSetComboBoxStyleSelector(CustomComboBox::DarkBlack);
+        QVERIFY(combo.count() == 1 && !(combo.model()->flags(combo.model()->index(0, 0)) & Qt::ItemIsEnabled));
         combo.showPopup();
         const auto *button = combo.view()->findChild<CustomPushButton *>();
+        for (const auto &[status, end] :
+            { std::pair(Custom::Hover, "_Hover"_s), std::pair(Custom::Pressed, "_Pressed"_s) })
+            QCOMPARE(value(*button, "FontColor"_s, status), QString("DB_COLOR_Custom_ComboBox_Font"_s + end));
         QVERIFY(button && button->width() == 170 && button->font().family() == Custom::globalFontFamily());
         combo.hidePopup();
     }
@@ -289,6 +300,8 @@ private Q_SLOTS:
         for (const auto &text : { "a"_s, QString(99, 'W'), "b"_s })
             model.appendRow(new QStandardItem(text));
         combo.setModel(&model);
+        QVERIFY(qobject_cast<CComboBoxListDelegate *>(combo.view()->itemDelegate()));
+        QCOMPARE(combo.view()->styleSheet(), Custom::styleSheet(Custom::SheetListView));
         for (const int policy : { 0, 1 }) { // a view of the combo box's own, and one of the application's
             combo.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
             if (policy > 0)
@@ -342,7 +355,10 @@ private Q_SLOTS:
             combo.showPopup();
             QVERIFY(!popup->isVisible() && combo.isEnabled());
         };
+        for (QWidget *widget : { new QWidget, content.data() }) // it comes back as it was
+            combo.cSetCustomPopupWidget(widget);
         during([&] { combo.hidePopup(); });
+        QVERIFY(content->isVisibleTo(content->window()));
         QVERIFY(shown == 1 && window.focusWidget() == &combo);
         during([&] { shown < 3 ? combo.showPopup() : combo.hidePopup(); });
         QCOMPARE(shown, 3);

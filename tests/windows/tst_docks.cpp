@@ -44,6 +44,9 @@ void DocksTest::titleBar()
     QVERIFY(title->x() - 14 == 0 && expand->geometry().right() == bar->width() - 11);
     QVERIFY(close->geometry().right() == expand->x() - 1 && close->size() == QSize(16, 16));
     QCOMPARE(close->cStyleSelector(), QStringLiteral("Default"));
+    QVERIFY(title->cFontSize() == 14 && expand->size() == QSize(16, 16));
+    QCOMPARE(
+        title->cAttributeValue(QStringLiteral("FontColor")), QStringLiteral("DB_COLOR_Custom_DockTitleBarLabel_Font"));
     const auto state = [&]() -> QString { return expand->cStyleSelector() + QLatin1Char(' ') + expand->toolTip(); };
     QSignalSpy spy(bar, &CustomDockTitleBar::SigExpandBtn);
     for (const bool isExpanded : { true, false, true }) {
@@ -83,6 +86,8 @@ void DocksTest::toolBar()
     bar.resize(500, 40);
     bar.show();
     QVERIFY(combo->x() == own->geometry().right() + 1 && line->x() == combo->geometry().right() + 8);
+    QCOMPARE(
+        line->cAttributeValue(QStringLiteral("BackgroundColor")), QStringLiteral("DB_COLOR_Custom_ToolBar_Background"));
     QVERIFY(line->size() == QSize(1, 18) && button->geometry().right() == 499);
     const QRect place = button->geometry();
     bar.cClear();
