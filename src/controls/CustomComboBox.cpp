@@ -298,19 +298,29 @@ void CustomComboBoxPrivate::dropPressedLook()
         self->setFocus();
 }
 
+// What scrolls a long list at its ends has the colours of the platform, and inherits none below a style sheet.
+void CustomComboBoxPrivate::colorScrollers(QWidget *window) const
+{
+    const QPalette list = q->view()->palette();
+    const QWidgetList parts = window->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *part : parts) {
+        if (part == q->view())
+            continue;
+        QPalette colors = part->palette();
+        colors.setColor(QPalette::Window, list.color(QPalette::Base));
+        for (const QPalette::ColorRole role : { QPalette::WindowText, QPalette::ButtonText, QPalette::Text })
+            colors.setColor(role, list.color(QPalette::Text));
+        part->setPalette(colors);
+    }
+}
+
 void CustomComboBoxPrivate::placeList()
 {
     QWidget *window = q->viewParent();
     if (!window)
         return;
     window->setFixedWidth(qMax(q->width() + kListExtraWidth, q->sizeHint().width()));
-    // What scrolls a long list at its ends is painted with the window's colours.
-    QPalette colors = window->palette();
-    const QPalette list = q->view()->palette();
-    colors.setColor(QPalette::Window, list.color(QPalette::Base));
-    for (const QPalette::ColorRole role : { QPalette::WindowText, QPalette::ButtonText, QPalette::Text })
-        colors.setColor(role, list.color(QPalette::Text));
-    window->setPalette(colors);
+    colorScrollers(window);
     // The combo box may have been laid out since they were added.
     for (const QPointer<CustomPushButton> &button : qAsConst(buttonRows)) {
         if (button)

@@ -36,7 +36,7 @@ public:
     explicit CustomComboBox(QWidget *parent = nullptr, StyleSelector selector = Default, bool multi = false);
     ~CustomComboBox() override;
 
-    /// In multi-value mode also makes the check boxes anew, which take the new look, and so drops a button row.
+    /// In multi-value mode also makes the check boxes anew, which take the new look, and so drops all other rows.
     void cSetComboBoxStyleSelector(StyleSelector selector);
     /// Shows \p text in the closed box, whatever is chosen. An empty text, as at start, shows the choice again.
     void cSetCustomDisplayText(const QString &text);

@@ -57,6 +57,7 @@ public:
     void runPopup();
     void dropHover();
     void dropPressedLook();
+    void colorScrollers(QWidget *window) const;
     void placeList();
     void measureTexts();
 
