@@ -187,9 +187,7 @@ void CustomSliderSpinBoxPrivate::ResetSliderPopupSize()
 
 void CustomSliderSpinBoxPrivate::onSpinPosTimer()
 {
-    if (!m_pSpinBox)
-        return;
-    if (m_pSpinBox->visibleRegion().isEmpty()) { // scrolled out of sight
+    if (!m_pSpinBox || m_pSpinBox->visibleRegion().isEmpty()) { // gone, or scrolled out of sight
         HideSlider();
         return;
     }
@@ -271,10 +269,10 @@ bool CustomSliderSpinBoxPrivate::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::MouseButtonPress && (watched == m_pWatched || watched == m_pWatchedHandle)) {
         const auto *press = static_cast<QMouseEvent *>(event);
         hides = isOutside(WindowGeometry::rounded(press->screenPos()));
-    } else if (watched == m_pPopup) {
+    } else if (qobject_cast<CustomMainWindow *>(watched) && watched != m_pWatched) {
         // The user may close the popup itself, too.
         hides = event->type() == QEvent::Hide && s_pCurPopupPrivate == this;
-    } else if (watched == m_pSpinBox) {
+    } else if (qobject_cast<CustomSpinBox64 *>(watched)) { // null while it is destroyed
         hides = endsUse(*event);
         if (event->type() == QEvent::Resize)
             ResetSliderPopupSize();

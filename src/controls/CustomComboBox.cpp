@@ -581,7 +581,7 @@ bool CustomComboBox::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::MouseButtonRelease && d->isDeadRow(watched, static_cast<QMouseEvent &>(*event).pos()))
         return true;
     // As they close a list.
-    if (watched == d->popupWindow && event->type() == QEvent::KeyPress
+    if (event->type() == QEvent::KeyPress && watched == d->popupWindow
         && isClosingKey(static_cast<QKeyEvent &>(*event))) {
         d->popupWindow->hide();
         return true;
