@@ -16,6 +16,7 @@
 #include <QtGui/QCursor>
 #include <QtGui/QScreen>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QStylePainter>
 
