@@ -1,3 +1,4 @@
+#include "support/Literal.h"
 #include "support/StyleTest.h"
 
 #include <Zanthic/CustomMainWindow.h>
@@ -9,9 +10,6 @@
 #include <Zanthic/CustomWidget.h>
 #include <Zanthic/ZanthicTheme.h>
 
-using Open = void (*)();
-Q_DECLARE_METATYPE(Open)
-
 namespace {
 
 constexpr int kRounds = 1000;
@@ -19,7 +17,7 @@ constexpr int kRounds = 1000;
 void openWindow()
 {
     CustomMainWindow window;
-    window.cTitleBar()->cAddMenu(QStringLiteral("File"), new CustomMenu(&window));
+    window.cTitleBar()->cAddMenu("File"_s, new CustomMenu(&window));
     window.cTitleBar()->cAddToolButton(false, 4);
     window.cSetCentralWidget(new CustomWidget);
     window.cSetButtons(CustomMainWindow::ButtonOk);
@@ -30,7 +28,7 @@ void openWindow()
 void openMenu()
 {
     CustomMenu menu;
-    menu.addMenu(QStringLiteral("More"))->addAction(QStringLiteral("Action"));
+    menu.addMenu("More"_s)->addAction("Action"_s);
     menu.cAddCustomWidgetMenu(new QWidget);
     menu.popup(QPoint(10, 10));
     menu.close();
@@ -39,13 +37,12 @@ void openMenu()
 void openMessageBox()
 {
     QTimer::singleShot(0, qApp, [] { QApplication::activeModalWidget()->close(); });
-    CustomMessageBox::ask(
-        nullptr, QStringLiteral("Content"), QString(), CustomMainWindow::ButtonOk, QStringLiteral("Title"));
+    CustomMessageBox::ask(nullptr, "Content"_s, QString(), CustomMainWindow::ButtonOk, "Title"_s);
 }
 
 void openToolTip()
 {
-    CustomToolTip::showText(QPoint(50, 50), QStringLiteral("Tip"), nullptr, true);
+    CustomToolTip::showText(QPoint(50, 50), "Tip"_s, nullptr, true);
 }
 
 } // namespace
@@ -56,37 +53,26 @@ class LifetimesTest : public StyleTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void nothingStaysBehind_data();
-    void nothingStaysBehind();
-};
-
-void LifetimesTest::nothingStaysBehind_data()
-{
-    QTest::addColumn<Open>("open");
-    QTest::newRow("windows") << Open(&openWindow);
-    QTest::newRow("menus") << Open(&openMenu);
-    QTest::newRow("message boxes") << Open(&openMessageBox);
-    QTest::newRow("tool tips") << Open(&openToolTip);
-}
-
-void LifetimesTest::nothingStaysBehind()
-{
-    QFETCH(Open, open);
-    ZanthicTheme::applySkin(QStringLiteral("light"));
-    const auto living = [] {
+    void nothingStaysBehind()
+    {
+        ZanthicTheme::applySkin("light"_s);
+        const auto living = [] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            return QApplication::allWidgets().size();
+        };
+        for (const auto &open : { openWindow, openMenu, openMessageBox, openToolTip }) {
+            open();
+            const int before = living();
+            for (int round = 0; round < kRounds; ++round) {
+                open();
+                QCoreApplication::processEvents();
+            }
+            QCOMPARE(living(), before);
+        }
+        QTest::mouseClick(std::make_unique<QWidget>().get(), Qt::LeftButton); // closes the tip
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return QApplication::allWidgets().size();
-    };
-    open();
-    const int before = living();
-    for (int round = 0; round < kRounds; ++round) {
-        open();
-        QCoreApplication::processEvents();
     }
-    QCOMPARE(living(), before);
-    QTest::mouseClick(std::make_unique<QWidget>().get(), Qt::LeftButton); // closes the tip
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
+};
 
 ZANTHIC_TEST_MAIN(LifetimesTest)
 #include "tst_lifetimes.moc"
