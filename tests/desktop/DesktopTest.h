@@ -3,14 +3,8 @@
 #include "support/Literal.h"
 #include "support/StyleTest.h"
 
-#include <Zanthic/CustomMainWindow.h>
-#include <Zanthic/CustomTitleBar.h>
+#include <Zanthic/Zanthic.h>
 #include <Zanthic/ZanthicTheme.h>
-
-#include <QtCore/QEventLoop>
-#include <QtCore/QProcess>
-#include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
 
 #include <functional>
 

@@ -1,12 +1,6 @@
 #include "desktop/DesktopTest.h"
 
-#include <Zanthic/Custom.h>
-#include <Zanthic/CustomMenu.h>
-#include <Zanthic/CustomMessageBox.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/HotKeyEvent.h>
-
-#include <QtWidgets/QLineEdit>
+#include <Zanthic/Zanthic.h>
 
 namespace {
 

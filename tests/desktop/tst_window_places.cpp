@@ -1,7 +1,5 @@
 #include "desktop/DesktopTest.h"
 
-#include <QtWidgets/QLineEdit>
-
 namespace {
 
 const QRect kStart(200, 150, 400, 300);

@@ -1,6 +1,6 @@
 #include "style/StyleHost.h"
 
-#include <Zanthic/ChangeSkinEvent.h>
+#include <Zanthic/Zanthic.h>
 #include <Zanthic/ZanthicTheme.h>
 
 #include <QtXml/QDomDocument>

@@ -3,7 +3,7 @@
 #include "windows/DialogDriver.h"
 #include "windows/FileNames_p.h"
 
-#include <Zanthic/Custom.h>
+#include <Zanthic/Zanthic.h>
 
 class FileNamesTest : public StyleTest
 {

@@ -1,13 +1,7 @@
 #include "support/Literal.h"
 #include "support/StyleTest.h"
 
-#include <Zanthic/CustomMainWindow.h>
-#include <Zanthic/CustomMenu.h>
-#include <Zanthic/CustomMessageBox.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomTitleBar.h>
-#include <Zanthic/CustomToolTip.h>
-#include <Zanthic/CustomWidget.h>
+#include <Zanthic/Zanthic.h>
 #include <Zanthic/ZanthicTheme.h>
 
 namespace {

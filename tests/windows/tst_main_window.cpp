@@ -4,14 +4,7 @@
 #include "support/StyleTest.h"
 #include "windows/CustomMainWindow_p.h"
 
-#include <Zanthic/CustomFrame.h>
-#include <Zanthic/CustomLineWidget.h>
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomTitleBar.h>
-#include <Zanthic/CustomWidget.h>
-
-#include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QScrollArea>
+#include <Zanthic/Zanthic.h>
 
 using Private = CustomMainWindowPrivate;
 using Window = CustomMainWindow;
@@ -46,15 +39,6 @@ class HidesItself : public Window
 {
 protected:
     void showEvent(QShowEvent *) override { hide(); }
-};
-
-class Listener : public CustomWidget
-{
-public:
-    int keys = 0;
-
-protected:
-    void keyPressEvent(QKeyEvent *) override { ++keys; }
 };
 
 } // namespace
@@ -233,6 +217,24 @@ private Q_SLOTS:
         QVERIFY(watch.polished);
     }
 
+    void keys()
+    {
+        struct Listener : CustomWidget
+        {
+            void keyPressEvent(QKeyEvent *) override { ++keys; }
+            int keys = 0;
+        };
+        Window window;
+        auto *listener = new Listener;
+        window.cInstallKeyPressEvent(listener);
+        window.cInstallKeyPressEvent(nullptr);
+        window.show();
+        QTest::keyClick(&window, Qt::Key_Return);
+        QCOMPARE(listener->keys, 1);
+        delete listener;
+        QTest::keyClick(&window, Qt::Key_A);
+    }
+
     void execAndItsResult()
     {
         Window parent;
@@ -276,19 +278,6 @@ private Q_SLOTS:
         QVERIFY(!shy.isVisible() && CustomPrivate::modalWidgetCount() == 0);
     }
 
-    void keys()
-    {
-        Window window;
-        auto *listener = new Listener;
-        window.cInstallKeyPressEvent(listener);
-        window.cInstallKeyPressEvent(nullptr);
-        window.show();
-        QTest::keyClick(&window, Qt::Key_Return);
-        QCOMPARE(listener->keys, 1);
-        delete listener;
-        QTest::keyClick(&window, Qt::Key_A);
-    }
-
     void bottomWindowMakesRoom()
     {
         Window bottom;
@@ -300,26 +289,18 @@ private Q_SLOTS:
         QVERIFY(!of(bottom)->m_oLowerTimer.isActive());
         Window normal;
         normal.cSetWindowLever(Window::LeverNormal);
-        normal.show();
+        Window full;
+        full.cSetWindowLever(Window::LeverBottom);
+        for (Window *window : { &normal, &full, &bottom })
+            window->show();
         QVERIFY(!of(normal)->m_oLowerTimer.isActive());
+        Window::cSetIsFullScreen(true, &full);
+        QVERIFY(!bottom.isVisible() && normal.isVisible() && full.isVisible());
+        Window::cSetIsFullScreen(false, nullptr);
+        QVERIFY(!bottom.isVisible());
         QHelpEvent tip(QEvent::ToolTip, QPoint(1, 1), QPoint(1, 1));
         QCoreApplication::sendEvent(of(bottom)->m_pFrame, &tip);
         QVERIFY(of(bottom)->m_oLowerTimer.isActive());
-    }
-
-    void fullScreenHidesBottomWindows()
-    {
-        Window bottom;
-        Window other;
-        Window full;
-        for (Window *window : { &bottom, &full })
-            window->cSetWindowLever(Window::LeverBottom);
-        for (Window *window : { &bottom, &other, &full })
-            window->show();
-        Window::cSetIsFullScreen(true, &full);
-        QVERIFY(!bottom.isVisible() && other.isVisible() && full.isVisible());
-        Window::cSetIsFullScreen(false, nullptr);
-        QVERIFY(!bottom.isVisible());
     }
 
     void stretchesByTheMouse()

@@ -3,10 +3,7 @@
 #include "support/StyleTest.h"
 #include "windows/MenuItemLayout_p.h"
 
-#include <Zanthic/CInterWidgetMenu.h>
-
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QStyleOptionMenuItem>
+#include <Zanthic/Zanthic.h>
 
 using Item = QStyleOptionMenuItem;
 

@@ -4,12 +4,8 @@
 #include "windows/CustomMainWindow_p.h"
 #include "windows/CustomMessageBox_p.h"
 
-#include <Zanthic/CustomPushButton.h>
-#include <Zanthic/CustomTitleBar.h>
+#include <Zanthic/Zanthic.h>
 #include <Zanthic/ZanthicTheme.h>
-
-#include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QScrollBar>
 
 using Box = CustomMessageBox;
 using Panel = CustomMessageBoxPrivate;

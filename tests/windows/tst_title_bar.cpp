@@ -3,13 +3,7 @@
 #include "support/StyleTest.h"
 #include "windows/CustomTitleBar_p.h"
 
-#include <Zanthic/CustomLabel.h>
-#include <Zanthic/CustomLineWidget.h>
-#include <Zanthic/CustomMainWindow.h>
-#include <Zanthic/CustomMenu.h>
-#include <Zanthic/CustomPushButton.h>
-
-#include <QtWidgets/QBoxLayout>
+#include <Zanthic/Zanthic.h>
 
 using Private = CustomTitleBarPrivate;
 using Bar = CustomTitleBar;
@@ -162,11 +156,12 @@ private Q_SLOTS:
     {
         addStyle("CustomTitleBar", "Icon=@red16x12"_s);
         Host host;
-        QVERIFY(host.d->m_pIconLabel->pixmap(Qt::ReturnByValue).size() == QSize(16, 12));
+        const auto size = [&host] { return host.d->m_pIconLabel->pixmap(Qt::ReturnByValue).size(); };
+        QCOMPARE(size(), QSize(16, 12));
         host.bar->cSetTitleControls(Bar::TitleClose);
         host.bar->cSetTitleIcon(picture(Qt::blue, QSize(20, 20)));
         QCOMPARE(int(host.bar->cTitleControls()), 12);
-        QVERIFY(host.d->m_pIconLabel->pixmap(Qt::ReturnByValue).size() == QSize(20, 20));
+        QCOMPARE(size(), QSize(20, 20));
     }
 
     void maximisesAndStaysOnTop()

@@ -4,11 +4,7 @@
 #include "windows/CustomToolTip_p.h"
 #include "windows/ToolTipLayout_p.h"
 
-#include <Zanthic/Custom.h>
-#include <Zanthic/CustomToolTip.h>
-
-#include <QtCore/QAbstractEventDispatcher>
-#include <QtGui/QMouseEvent>
+#include <Zanthic/Zanthic.h>
 
 #include <limits>
 
