@@ -34,8 +34,7 @@ int ask(QWidget *parent, const std::function<void(CustomMessageBox *)> &drive)
         QTRY_VERIFY(parent->geometry().contains(DesktopTest::placeOf(*box)));
         drive(box);
     };
-    DesktopTest::during(
-        open, [] { return activeBox() != nullptr; }, settle);
+    DesktopTest::during(open, activeBox, settle);
     return QTest::qWaitForWindowActive(parent) ? result : -3;
 }
 
@@ -158,12 +157,12 @@ private Q_SLOTS:
                 QTRY_COMPARE(placeOf(*window), QRect(200, 150, 400, 300));
                 click(middle(window->cButton(0)));
             };
+            const auto isOpen = [&] { return window->isVisible(); };
             const auto blocking = [&] {
                 QCOMPARE(open(window), -1);
                 QTRY_VERIFY(!window);
             };
-            during(
-                blocking, [&] { return window->isVisible(); }, drive);
+            during(blocking, isOpen, drive);
             const bool isGone = !window;
             delete window;
             QVERIFY(isGone && Custom::enableActiveShortcut());

@@ -172,7 +172,7 @@ private Q_SLOTS:
             gallery.window->show();
             int opened = 0;
             QTimer closer;
-            connect(&closer, &QTimer::timeout, [&] {
+            closer.callOnTimeout([&] {
                 for (QWidget *widget : QApplication::topLevelWidgets()) {
                     if (widget != gallery.window.get() && widget->isVisible())
                         opened += int(widget->close());

@@ -18,7 +18,7 @@ struct DialogDriver : QTimer
             if (dialog && ++looks == 1)
                 return reply(dialog);
             for (const QLabel *label : modal ? modal->findChildren<QLabel *>() : QList<QLabel *>())
-                texts += label->text().remove("\r\n"_s) + '|';
+                texts += label->text().remove(QStringLiteral("\r\n")) + QLatin1Char('|');
             if (modal && (!dialog || looks > 100))
                 modal->close();
         });

@@ -229,8 +229,12 @@ private Q_SLOTS:
         window.cInstallKeyPressEvent(listener);
         window.cInstallKeyPressEvent(nullptr);
         window.show();
-        QTest::keyClick(&window, Qt::Key_Return);
-        QCOMPARE(listener->keys, 1);
+        for (const Qt::Key key : { Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter }) {
+            QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+            QCoreApplication::sendEvent(&window, &event);
+            QVERIFY(!event.isAccepted() && window.isVisible());
+        }
+        QCOMPARE(listener->keys, 3);
         delete listener;
         QTest::keyClick(&window, Qt::Key_A);
     }
