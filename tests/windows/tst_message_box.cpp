@@ -31,6 +31,15 @@ Texts textsOf(const Box *box)
     return Panel::get(box)->findChildren<CMessageBoxScrollText *>("MessageBoxScrollText"_s);
 }
 
+/// The label of the last text of a box that is given its texts.
+const CMessageBoxLabel *labelOf(Box *box, const QString &title, const QString &content = QString())
+{
+    box->cSetTextTitle(title);
+    box->cSetContent(content);
+    box->cEndSetParameter();
+    return textsOf(box).isEmpty() ? nullptr : textsOf(box).constLast()->label();
+}
+
 } // namespace
 
 class MessageBoxTest : public StyleTest
@@ -110,10 +119,8 @@ private Q_SLOTS:
     void layout()
     {
         Box box;
-        box.cSetTextTitle(cell("title"));
-        box.cSetContent(cell("content"));
         Panel::get(&box)->m_bLargeSize = !cell("large").isEmpty();
-        box.cEndSetParameter();
+        labelOf(&box, cell("title"), cell("content"));
         QStringList sizes;
         for (const CMessageBoxScrollText *text : textsOf(&box))
             sizes << "%1x%2"_s.arg(text->width()).arg(text->height());
@@ -133,9 +140,8 @@ private Q_SLOTS:
         ZanthicTheme::applySkin("light"_s);
         for (const int length : { 3, 400 }) {
             Box box;
-            box.cSetTextTitle(QString(length, 'x'));
             box.cSetHintStyle(Box::HintError);
-            box.cEndSetParameter();
+            labelOf(&box, QString(length, 'x'));
             const CMessageBoxScrollText *text = textsOf(&box).value(0);
             const auto *row = static_cast<QHBoxLayout *>(text->parentWidget()->layout()->itemAt(1)->layout());
             const int icon = row->itemAt(1)->widget()->sizeHint().width();
@@ -151,8 +157,7 @@ private Q_SLOTS:
     void longTextsScroll()
     {
         Box box;
-        box.cSetTextTitle(QString(10000, 'm'));
-        box.cEndSetParameter();
+        labelOf(&box, QString(10000, 'm'));
         box.show();
         const CMessageBoxScrollText *text = textsOf(&box).value(0);
         const int lines = text->label()->text().count("\r\n"_s);
@@ -167,24 +172,12 @@ private Q_SLOTS:
     {
         Box plain;
         Box marked;
-        const auto shown = [](Box &box, const QString &text) {
-            box.cSetTextTitle(text);
-            box.cEndSetParameter();
-            return textsOf(&box).value(0)->label();
-        };
         // Breaks are taken out; markup and place markers have no meaning.
-        QCOMPARE(shown(plain, "a\r\nb %1 & \"c\""_s)->text(), "ab %1 & \"c\""_s);
-        QCOMPARE(shown(marked, "<h1>x</h1>"_s)->height(), 43); // of two lines
-    }
-
-    void links()
-    {
-        Box box;
-        box.cSetTextTitle("T"_s);
-        box.cSetContent("See <a href=\"https://example.org\">there</a>"_s);
-        box.cSetOpenExternalLinks(true);
-        box.cEndSetParameter();
-        const CMessageBoxLabel *label = textsOf(&box).value(1)->label();
+        QCOMPARE(labelOf(&plain, "a\r\nb %1 & \"c\""_s)->text(), "ab %1 & \"c\""_s);
+        QCOMPARE(labelOf(&marked, "<h1>x</h1>"_s)->height(), 43); // of two lines
+        Box linked;
+        linked.cSetOpenExternalLinks(true);
+        const CMessageBoxLabel *label = labelOf(&linked, "T"_s, "See <a href=\"https://example.org\">there</a>"_s);
         QVERIFY(label->openExternalLinks() && label->wordWrap() && !label->m_bWrapped);
         QCOMPARE(label->size(), QSize(250, 40)); // "See " is narrower than 250
     }
@@ -213,10 +206,9 @@ private Q_SLOTS:
     {
         ZanthicTheme::applySkin("light"_s);
         const auto shown = [](Box &box) {
-            box.cSetTextTitle("Title"_s);
             box.cSetHintStyle(Box::HintWarning);
             box.cSetButtons(CustomMainWindow::ButtonOk);
-            box.cEndSetParameter();
+            labelOf(&box, "Title"_s);
             box.show();
             return box.grab().toImage();
         };
