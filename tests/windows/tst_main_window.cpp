@@ -282,6 +282,25 @@ private Q_SLOTS:
         QVERIFY(!shy.isVisible() && CustomPrivate::modalWidgetCount() == 0);
     }
 
+    void popupClosesOnAPressOutside()
+    {
+        Window window;
+        window.setGeometry(100, 100, 200, 100);
+        for (const QPoint &outside : { QPoint(-5, 50), QPoint(200, 50), QPoint(0, 0) }) {
+            bool isClosed = false;
+            QTimer::singleShot(0, &window, [&] {
+                window.cPopup(); // does nothing while it is one
+                QTest::mousePress(&window, Qt::LeftButton, {}, QPoint(50, 90));
+                QMouseEvent press(
+                    QEvent::MouseButtonPress, outside, QPoint(300, 300), Qt::LeftButton, Qt::LeftButton, {});
+                isClosed = window.isVisible() && QCoreApplication::sendEvent(&window, &press) && !window.isVisible();
+                window.hide();
+            });
+            window.cPopup();
+            QVERIFY(isClosed);
+        }
+    }
+
     void bottomWindowMakesRoom()
     {
         Window bottom;
