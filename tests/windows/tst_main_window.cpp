@@ -297,7 +297,7 @@ private Q_SLOTS:
                 window.hide();
             });
             window.cPopup();
-            QVERIFY(isClosed);
+            QVERIFY(isClosed && window.windowType() != Qt::Popup);
         }
     }
 
@@ -353,7 +353,9 @@ private Q_SLOTS:
         window.cShowMaximized();
         const QRect whole = window.geometry();
         drag(QPoint(whole.width() - 1, 100), QPoint(-50, 0));
-        QCOMPARE(window.geometry(), whole);
+        QVERIFY(window.geometry() == whole && !of(window)->m_bCanStrech);
+        window.cShowNormal();
+        QVERIFY(of(window)->m_bCanStrech);
     }
 
     void stretchesOfTwoWindows()
@@ -380,7 +382,9 @@ private Q_SLOTS:
         QVERIFY(
             !Private::g_StretchHelper.pressed && a.cTitleBar()->cEnableMove() && !QGuiApplication::overrideCursor());
         modal.hide();
-        of(a)->judgeCursorPos(a.mapToGlobal(edge));
+        a.cSetStrechEdges(Window::StrechEdges(255));
+        for (const QPoint &zone : { QPoint(150, 199), edge })
+            of(a)->judgeCursorPos(a.mapToGlobal(zone));
         QVERIFY(QGuiApplication::overrideCursor());
         a.cSetStrechEdges({});
         QVERIFY(!QGuiApplication::overrideCursor());
