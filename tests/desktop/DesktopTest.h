@@ -1,15 +1,10 @@
 #pragma once
 
+#include "support/Literal.h"
 #include "support/StyleTest.h"
 
-#include <Zanthic/CustomMainWindow.h>
-#include <Zanthic/CustomTitleBar.h>
+#include <Zanthic/Zanthic.h>
 #include <Zanthic/ZanthicTheme.h>
-
-#include <QtCore/QEventLoop>
-#include <QtCore/QProcess>
-#include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
 
 #include <functional>
 
@@ -23,16 +18,16 @@ public:
         QProcess process;
         QEventLoop loop;
         connect(&process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), &loop, &QEventLoop::quit);
-        process.start(QStringLiteral("xdotool"), words.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        process.start("xdotool"_s, words.split(' ', Qt::SkipEmptyParts));
         loop.exec();
         QCursor::pos(); // answered behind everything before it
         QCoreApplication::processEvents();
         return QString::fromLatin1(process.readAllStandardOutput());
     }
-    static QString to(const QPoint &at) { return QStringLiteral("mousemove %1 %2 ").arg(at.x()).arg(at.y()); }
+    static QString to(const QPoint &at) { return "mousemove %1 %2 "_s.arg(at.x()).arg(at.y()); }
     static void move(const QPoint &at) { tool(to(at)); }
     static void press(const QPoint &at) { tool(to(at) + QLatin1String("mousedown 1")); }
-    static void release() { tool(QStringLiteral("mouseup 1")); }
+    static void release() { tool("mouseup 1"_s); }
     static void click(const QPoint &at) { tool(to(at) + QLatin1String("click 1")); }
     static void doubleClick(const QPoint &at)
     {
@@ -56,7 +51,7 @@ public:
     /// Where the display and Qt agree that \p window is; null while they don't.
     static QRect placeOf(const QWidget &window)
     {
-        const auto n = numbersIn(tool(QStringLiteral("getwindowgeometry %1").arg(window.winId())));
+        const auto n = numbersIn(tool("getwindowgeometry %1"_s.arg(window.winId())));
         const QRect place = n.size() < 6 ? QRect() : QRectF(n[1], n[2], n[4], n[5]).toRect();
         const QRect known(window.mapToGlobal(QPoint(0, 0)), window.size());
         return place == window.geometry() && place == known ? place : QRect();
@@ -97,7 +92,7 @@ class Shell : public CustomMainWindow
 {
 public:
     explicit Shell(const QRect &place = QRect(200, 150, 400, 300), QWidget *parent = nullptr)
-        : CustomMainWindow((ZanthicTheme::applySkin(QStringLiteral("light")), parent))
+        : CustomMainWindow((ZanthicTheme::applySkin("light"_s), parent))
     {
         setGeometry(place);
     }

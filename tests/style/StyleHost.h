@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Literal.h"
 #include "support/StyleTest.h"
 
 #include "style/CustomObject_p.h"
@@ -31,11 +32,6 @@ protected:
     void customEvent(QEvent *event) override { cCustomEvent(event); }
     void paintEvent(QPaintEvent *) override { ++paints; }
 };
-
-inline QString operator""_s(const char *text, size_t size)
-{
-    return QString::fromUtf8(text, int(size));
-}
 
 inline QString value(const CustomObject &object, const QString &attribute, Custom::ItemStatus status = Custom::Normal,
     const QStringList &subs = {})

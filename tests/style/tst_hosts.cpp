@@ -145,17 +145,17 @@ private Q_SLOTS:
         ForgetfulWidget widget; // is styled by the name of its base
         CustomFrame frame;
         frame.cSetClassName("CustomWidget"_s);
-        const auto colors = [](QWidget *host, CustomObject *object) -> QString {
-            host->resize(40, 30);
-            object->cSetColorRect(0, QRect(10, 10, 5, 5), Qt::red);
-            const QImage image = Probe::grab(host);
+        const auto colors = [](auto &host) -> QString {
+            host.resize(40, 30);
+            host.cSetColorRect(0, QRect(10, 10, 5, 5), Qt::red);
+            const QImage image = Probe::grab(&host);
             return Probe::colorAt(image, 1, 12) + Probe::colorAt(image, 5, 12) + Probe::colorAt(image, 12, 12);
         };
         // Colour rectangles are the frame's alone.
-        QCOMPARE(colors(&widget, &widget), "#ff0000ff#ff00ff00#ff00ff00"_s);
-        QCOMPARE(colors(&frame, &frame), "#ff0000ff#ff00ff00#ffff0000"_s);
+        QCOMPARE(colors(widget), "#ff0000ff#ff00ff00#ff00ff00"_s);
+        QCOMPARE(colors(frame), "#ff0000ff#ff00ff00#ffff0000"_s);
         widget.cSetStyleSelector(Custom::GrayWhite);
-        QCOMPARE(colors(&widget, &widget), "#ff0000ff#ffff00ff#ffff00ff"_s);
+        QCOMPARE(colors(widget), "#ff0000ff#ffff00ff#ffff00ff"_s);
         Custom::changeSkin();
         QVERIFY(CustomObjectData::get(&widget)->dirty && CustomObjectData::get(&frame)->dirty);
     }
@@ -197,14 +197,6 @@ private Q_SLOTS:
         Custom::setGlobalFontFamily(Zh_cn, QString());
         host.cSetPrivateFontFamily("Again"_s);
         QCOMPARE(host.styleSheet(), "A{font:'Mine'}B{font:'Mine'}C{font:'family en'}"_s);
-    }
-
-    void shadowIsInert()
-    {
-        StyleHost host;
-        host.cSetShadowEnable(true, nullptr);
-        host.cSetShadowBulrRadius(5.0F);
-        QVERIFY(!host.graphicsEffect() && !host.cShadowEnable() && host.cShadowBulrRadius() == 0.0F);
     }
 
     void families_data() { addRowsOf("cases/families.txt"_s, { "attributes", "zh", "en", "inForce", "toZh", "toEn" }); }
@@ -321,14 +313,14 @@ private Q_SLOTS:
     {
         QWidget window;
         QGridLayout outer(&window);
-        QLayout *middle = Custom::createLayout(Qt::Vertical);
+        auto *middle = new QVBoxLayout;
+        QLayout *deep = Custom::createLayout(Qt::Vertical);
         QLayout *inner = Custom::createLayout(Qt::Horizontal);
-        QVERIFY(qobject_cast<QVBoxLayout *>(middle) && qobject_cast<QHBoxLayout *>(inner));
+        QVERIFY(qobject_cast<QVBoxLayout *>(deep) && qobject_cast<QHBoxLayout *>(inner));
         QVERIFY(inner->contentsMargins().isNull() && inner->spacing() == 0 && !inner->parent());
         outer.addWidget(new QWidget);
         outer.addLayout(middle, 1, 1);
         middle->addWidget(new QWidget);
-        QLayout *deep = Custom::createLayout(Qt::Vertical);
         middle->addItem(deep);
         deep->addItem(inner);
         Custom::removeChildLayoutItem(nullptr, inner);

@@ -159,6 +159,7 @@ private Q_SLOTS:
         for (const auto &[selector, flags] : { std::pair("Gray"_s, 5), std::pair("Default"_s, 7) }) {
             host.cSetStyleSelector(selector);
             QVERIFY(host.cHasParameter(Custom::ObjectParameter(flags)) && int(host.data()->parameters) == flags);
+            QVERIFY(!host.cHasParameter(Custom::ObjectParameter(flags | 8))); // every bit is needed
         }
     }
 

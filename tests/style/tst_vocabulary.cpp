@@ -43,16 +43,6 @@ private Q_SLOTS:
         QCOMPARE(Custom::ParamBaseBackgroundImage | Custom::ParamUserFontFamily | Custom::ParamColorRect, 448);
     }
 
-    void hasParameterNeedsEveryBit()
-    {
-        const int rows[][3] = { { 4, 4, 1 }, { 4, 6, 0 }, { 7, 6, 1 }, { 0, 1, 0 }, { 0, 0, 1 }, { 2, 0, 0 } };
-        for (const auto &[held, asked, expected] : rows) {
-            StyleHost host;
-            host.cSetParameter(Custom::ObjectParameter(held), true);
-            QCOMPARE(int(host.cHasParameter(Custom::ObjectParameter(asked))), expected);
-        }
-    }
-
     void colorTexts_data() { addRowsOf("cases/colors.txt"_s, { "text", "brush", "named" }); }
     void colorTexts()
     {
@@ -101,11 +91,7 @@ private Q_SLOTS:
         QCOMPARE(Custom::gradient2String(gradient), text.arg(cell("expected")));
         QCOMPARE(Custom::brush2String(gradient), text.arg(cell("expected")));
         QCOMPARE(Custom::string2Gradient(text.arg(cell("expected"))).stops(), gradient.stops());
-    }
-
-    void otherBrushesAreWrittenAsTheirColor()
-    {
-        QBrush texture(QPixmap(2, 2));
+        QBrush texture(QPixmap(2, 2)); // other brushes are written as their colour
         texture.setColor(QColor(9, 8, 7, 6));
         QCOMPARE(Custom::brush2String(texture), "rgba(9,8,7,6)"_s);
         QCOMPARE(Custom::brush2String(QRadialGradient(1, 1, 1)), "rgba(0,0,0,255)"_s);

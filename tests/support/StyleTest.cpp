@@ -30,9 +30,6 @@ void recordMessage(QtMsgType type, const QMessageLogContext &context, const QStr
 
 } // namespace
 
-StyleTest::StyleTest() = default;
-StyleTest::~StyleTest() = default;
-
 void StyleTest::expectWarning(const QString &part)
 {
     g_lstExpected.append(part);
@@ -127,21 +124,6 @@ void StyleTest::addRowsOf(const QString &file, std::initializer_list<const char 
 QString StyleTest::cell(const char *column)
 {
     return *static_cast<QString *>(QTest::qData(column, qMetaTypeId<QString>()));
-}
-
-QStringList StyleTest::list(const char *column)
-{
-    return cell(column).split(QLatin1Char(','), Qt::SkipEmptyParts);
-}
-
-double StyleTest::number(const char *column, int index)
-{
-    return list(column).value(index).toDouble();
-}
-
-Custom::ItemStatus StyleTest::status(const char *column)
-{
-    return qMax(Custom::Normal, enumerator<Custom::ItemStatus>(cell(column)));
 }
 
 QVector<double> StyleTest::numbersIn(const QString &text)

@@ -14,9 +14,6 @@ class StyleTest : public QObject
     Q_OBJECT
 
 public:
-    StyleTest();
-    ~StyleTest() override;
-
     /// Announces one warning whose text contains \p part; without it a warning fails the test.
     static void expectWarning(const QString &part);
 
@@ -43,11 +40,14 @@ public:
     /// The text of a column in the current row.
     static QString cell(const char *column);
     /// What a column holds between commas.
-    static QStringList list(const char *column);
+    static QStringList list(const char *column) { return cell(column).split(QLatin1Char(','), Qt::SkipEmptyParts); }
     /// The number at \p index of a column of numbers between commas; 0 where there is none.
-    static double number(const char *column, int index = 0);
+    static double number(const char *column, int index = 0) { return list(column).value(index).toDouble(); }
     /// The status that a column names by its word; Normal when it is empty.
-    static Custom::ItemStatus status(const char *column = "status");
+    static Custom::ItemStatus status(const char *column = "status")
+    {
+        return qMax(Custom::Normal, enumerator<Custom::ItemStatus>(cell(column)));
+    }
     /// The numbers in a text, whatever stands between them.
     static QVector<double> numbersIn(const QString &text);
     /// Left, top, width and height; the null rectangle for an empty text.
