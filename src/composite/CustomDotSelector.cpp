@@ -1,12 +1,11 @@
 #include <Zanthic/CustomDotSelector.h>
 
 #include "composite/CustomDotSelector_p.h"
+#include "windows/WindowGeometry_p.h"
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
-
-#include <cmath>
 
 namespace {
 
@@ -18,11 +17,6 @@ constexpr int Ring_Width = 2;
 constexpr int kMaxMetric = 4096;
 // Beyond it no pointer gets.
 constexpr int kFarRight = 32767;
-
-QPoint rounded(const QPointF &pos)
-{
-    return QPoint(int(std::round(pos.x())), int(std::round(pos.y())));
-}
 
 } // namespace
 
@@ -179,7 +173,7 @@ void CustomDotSelector::mouseReleaseEvent(QMouseEvent *event)
     QWidget::mouseReleaseEvent(event);
     if (!d)
         return;
-    const QPoint pos = rounded(event->localPos());
+    const QPoint pos = WindowGeometry::rounded(event->localPos());
     for (int i = 0; i < d->m_lstDotRects.size(); ++i) {
         if (!d->m_lstDotRects.at(i).contains(pos))
             continue;

@@ -3,6 +3,7 @@
 #include "composite/CustomDrawSlider_p.h"
 #include "composite/SliderArithmetic_p.h"
 #include "render/SliderPainter_p.h"
+#include "windows/WindowGeometry_p.h"
 
 #include <Zanthic/ChangeSkinEvent.h>
 
@@ -18,11 +19,6 @@ constexpr int kTrackPositions = 1000;
 constexpr qint64 kLargeRange = 50000; // above it the track has stages
 constexpr int Hint_TrackWidth = 120;
 constexpr int Hint_LeastTrackWidth = 48;
-
-QPoint rounded(const QPointF &pos)
-{
-    return QPoint(SliderArithmetic::rounded(pos.x()), SliderArithmetic::rounded(pos.y()));
-}
 
 } // namespace
 
@@ -245,7 +241,7 @@ void CustomDrawSlider::mousePressEvent(QMouseEvent *event)
     // With a click on the track the slider also takes what belongs to it: no window must move or stretch by the press.
     if (d && d->clickToMove)
         event->accept();
-    if (!d || !d->option.handleRect.contains(rounded(event->localPos())))
+    if (!d || !d->option.handleRect.contains(WindowGeometry::rounded(event->localPos())))
         return;
     d->option.handlePressed = true;
     if (d->option.activeHandle >= 0)
@@ -260,7 +256,7 @@ void CustomDrawSlider::mouseMoveEvent(QMouseEvent *event)
     if (!d || !d->option.handlePressed)
         return;
     event->accept();
-    const bool changed = d->onChangedSlider(rounded(event->localPos()).x());
+    const bool changed = d->onChangedSlider(WindowGeometry::rounded(event->localPos()).x());
     update();
     if (changed)
         Q_EMIT valueChanged(d->option.value);
@@ -273,7 +269,7 @@ void CustomDrawSlider::mouseReleaseEvent(QMouseEvent *event)
         return;
     event->accept();
     d->option.handlePressed = false;
-    const bool changed = d->onChangedSlider(rounded(event->localPos()).x());
+    const bool changed = d->onChangedSlider(WindowGeometry::rounded(event->localPos()).x());
     update();
     const QPointer<CustomDrawSlider> self(this);
     Q_EMIT sliderRelease();

@@ -2,13 +2,12 @@
 
 #include "composite/CustomDrawSlider_p.h"
 #include "composite/SliderArithmetic_p.h"
+#include "windows/WindowGeometry_p.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
 
 namespace {
-
-using SliderArithmetic::rounded;
 
 // By one step up or down, at most the maximum, and then at least the minimum.
 void step(CustomDrawSliderOption *option, bool up)
@@ -95,7 +94,7 @@ void CustomTwoHandleSlider::mousePressEvent(QMouseEvent *event)
     // Where the two overlap, the first one is taken.
     if (!d || d->option.handlePressed)
         return;
-    const QPoint pos(rounded(event->localPos().x()), rounded(event->localPos().y()));
+    const QPoint pos = WindowGeometry::rounded(event->localPos());
     if (!d->option.secondHandleRect.contains(pos))
         return;
     d->option.secondHandlePressed = true;
@@ -111,7 +110,7 @@ void CustomTwoHandleSlider::mouseMoveEvent(QMouseEvent *event)
     if (!self || !d || !d->option.secondHandlePressed)
         return;
     event->accept();
-    const bool changed = d->onSecondChangedSlider(rounded(event->localPos().x()));
+    const bool changed = d->onSecondChangedSlider(WindowGeometry::rounded(event->localPos()).x());
     update();
     if (changed)
         Q_EMIT valueChanged(d->option.secondValue);
@@ -125,7 +124,7 @@ void CustomTwoHandleSlider::mouseReleaseEvent(QMouseEvent *event)
         return;
     event->accept();
     d->option.secondHandlePressed = false;
-    const bool changed = d->onSecondChangedSlider(rounded(event->localPos().x()));
+    const bool changed = d->onSecondChangedSlider(WindowGeometry::rounded(event->localPos()).x());
     update();
     Q_EMIT sliderRelease();
     if (self && changed)

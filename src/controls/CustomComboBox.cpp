@@ -122,7 +122,7 @@ void CustomComboBoxPrivate::setSheet()
 }
 
 // Qt's field keeps the colours of the platform otherwise. One that the application has coloured keeps its own.
-void CustomComboBoxPrivate::colorField()
+void CustomComboBoxPrivate::colorField(bool isNewSkin)
 {
     QLineEdit *edit = q->lineEdit();
     if (!edit)
@@ -131,7 +131,8 @@ void CustomComboBoxPrivate::colorField()
     const bool isOurs = edit == coloredField && textOf(QPalette::Active) == fieldColor;
     const QColor color = q->cFontColor();
     const QColor disabled = q->cFontColor(Custom::Disabled);
-    if (isOurs ? color == fieldColor && textOf(QPalette::Disabled) == disabled : edit->testAttribute(Qt::WA_SetPalette))
+    const bool isCurrent = !isNewSkin && color == fieldColor && textOf(QPalette::Disabled) == disabled;
+    if (isOurs ? isCurrent : edit->testAttribute(Qt::WA_SetPalette))
         return;
     coloredField = edit;
     fieldColor = color;
@@ -603,5 +604,5 @@ void CustomComboBox::customEvent(QEvent *event)
     if (int(event->type()) != ChangeSkinEvent::EventType)
         return;
     d->setSheet();
-    d->colorField();
+    d->colorField(true); // also for other colours of a selection
 }

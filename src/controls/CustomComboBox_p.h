@@ -40,7 +40,7 @@ public:
     CComboBoxListView *listView() const;
     void replaceView(CComboBoxListView *view); ///< by a plain one, which can show any model
     void setSheet();
-    void colorField();
+    void colorField(bool isNewSkin = false);
 
     QString multiText() const;
     void addWidgetRow(CComboBoxListView *view, std::unique_ptr<QListWidgetItem> row, std::unique_ptr<QWidget> widget);
